@@ -1,0 +1,1 @@
+// Placeholder until the instrument model lands.

@@ -1,0 +1,5 @@
+#include "platform/programstate.h"
+
+void ResetProgramState()
+{
+}
