@@ -11,7 +11,8 @@ int main(int argc, char** argv)
     installPlatform(std::make_unique<CliPlatform>());
 
     QCommandLineParser parser;
-    parser.setApplicationDescription("Selvane without windows: the program's routines for scripts and test benches.");
+    parser.setApplicationDescription(
+        "Selvane without windows: the program's routines for scripts and test benches.");
     parser.addHelpOption();
     parser.addVersionOption();
     parser.process(app);

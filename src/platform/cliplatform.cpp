@@ -25,17 +25,18 @@ QString CliPlatform::saveFileName(const FileDialogRequest&)
 
 void CliPlatform::sleep(int ms)
 {
-    if (ms > 0)
-        QThread::msleep(static_cast<unsigned long>(ms));
+    if (ms > 0) QThread::msleep(static_cast<unsigned long>(ms));
 }
 
 void CliPlatform::doEvents()
 {
-    if (QCoreApplication::instance())
-        QCoreApplication::processEvents();
+    if (QCoreApplication::instance()) QCoreApplication::processEvents();
 }
 
-QDateTime CliPlatform::now() { return QDateTime::currentDateTime(); }
+QDateTime CliPlatform::now()
+{
+    return QDateTime::currentDateTime();
+}
 
 QString CliPlatform::getSetting(const QString& section, const QString& key, const QString& defaultValue)
 {
@@ -47,5 +48,11 @@ void CliPlatform::saveSetting(const QString& section, const QString& key, const 
     store_.save(section, key, value);
 }
 
-void CliPlatform::deleteSetting(const QString& section, const QString& key) { store_.remove(section, key); }
-SettingList CliPlatform::allSettings(const QString& section) { return store_.all(section); }
+void CliPlatform::deleteSetting(const QString& section, const QString& key)
+{
+    store_.remove(section, key);
+}
+SettingList CliPlatform::allSettings(const QString& section)
+{
+    return store_.all(section);
+}

@@ -8,7 +8,7 @@
 #include <QStringList>
 
 class CliPlatform : public Platform {
-public:
+  public:
     explicit CliPlatform(const QString& settingsPath = QString());
 
     // Paths the next open/save dialogs return, first given first used.
@@ -26,7 +26,7 @@ public:
     void deleteSetting(const QString& section, const QString& key) override;
     SettingList allSettings(const QString& section) override;
 
-private:
+  private:
     SettingsStore store_;
     QStringList openPaths_;
     QStringList savePaths_;

@@ -42,17 +42,34 @@ std::unique_ptr<Platform> installPlatform(std::unique_ptr<Platform> platform)
 
 Platform& platform()
 {
-    if (!installed())
-        installed() = std::make_unique<CliPlatform>();
+    if (!installed()) installed() = std::make_unique<CliPlatform>();
     return *installed();
 }
 
-int MsgBox(const QString& text, int style, const QString& title) { return platform().msgBox(text, style, title); }
-QString OpenFileDialog(const FileDialogRequest& request) { return platform().openFileName(request); }
-QString SaveFileDialog(const FileDialogRequest& request) { return platform().saveFileName(request); }
-void Sleep(int ms) { platform().sleep(ms); }
-void DoEvents() { platform().doEvents(); }
-QDateTime Now() { return platform().now(); }
+int MsgBox(const QString& text, int style, const QString& title)
+{
+    return platform().msgBox(text, style, title);
+}
+QString OpenFileDialog(const FileDialogRequest& request)
+{
+    return platform().openFileName(request);
+}
+QString SaveFileDialog(const FileDialogRequest& request)
+{
+    return platform().saveFileName(request);
+}
+void Sleep(int ms)
+{
+    platform().sleep(ms);
+}
+void DoEvents()
+{
+    platform().doEvents();
+}
+QDateTime Now()
+{
+    return platform().now();
+}
 
 QString GetSetting(const QString& section, const QString& key, const QString& defaultValue)
 {
@@ -64,8 +81,14 @@ void SaveSetting(const QString& section, const QString& key, const QString& valu
     platform().saveSetting(section, key, value);
 }
 
-void DeleteSetting(const QString& section, const QString& key) { platform().deleteSetting(section, key); }
-SettingList GetAllSettings(const QString& section) { return platform().allSettings(section); }
+void DeleteSetting(const QString& section, const QString& key)
+{
+    platform().deleteSetting(section, key);
+}
+SettingList GetAllSettings(const QString& section)
+{
+    return platform().allSettings(section);
+}
 
 double GetSettingNumber(const QString& section, const QString& key, double defaultValue)
 {
@@ -77,7 +100,6 @@ double GetSettingNumber(const QString& section, const QString& key, double defau
 int GetSettingInt(const QString& section, const QString& key, int defaultValue)
 {
     const double value = GetSettingNumber(section, key, defaultValue);
-    if (value > 2147483647.0 || value < -2147483648.0)
-        return 0;
+    if (value > 2147483647.0 || value < -2147483648.0) return 0;
     return static_cast<int>(value < 0 ? value - 0.5 : value + 0.5);
 }

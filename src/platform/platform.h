@@ -51,7 +51,7 @@ struct FileDialogRequest {
 using SettingList = QList<QPair<QString, QString>>;
 
 class Platform {
-public:
+  public:
     virtual ~Platform() = default;
 
     virtual int msgBox(const QString& text, int style, const QString& title) = 0;

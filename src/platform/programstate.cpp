@@ -1,5 +1,8 @@
 #include "platform/programstate.h"
 
+#include "frame/language.h"
+
 void ResetProgramState()
 {
+    ResetLanguageState();
 }

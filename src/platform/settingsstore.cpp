@@ -3,7 +3,8 @@
 SettingsStore::SettingsStore(const QString& iniPath)
 {
     if (iniPath.isEmpty())
-        settings_ = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, "Selvane", "Selvane");
+        settings_ =
+            std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, "Selvane", "Selvane");
     else
         settings_ = std::make_unique<QSettings>(iniPath, QSettings::IniFormat);
 }
@@ -37,4 +38,7 @@ SettingList SettingsStore::all(const QString& section) const
     return list;
 }
 
-QString SettingsStore::fileName() const { return settings_->fileName(); }
+QString SettingsStore::fileName() const
+{
+    return settings_->fileName();
+}

@@ -8,7 +8,7 @@
 #include <memory>
 
 class SettingsStore {
-public:
+  public:
     // With no path: the user's own store; with a path: that INI file (tests, portable use).
     explicit SettingsStore(const QString& iniPath = QString());
 
@@ -18,6 +18,6 @@ public:
     SettingList all(const QString& section) const;
     QString fileName() const;
 
-private:
+  private:
     std::unique_ptr<QSettings> settings_;
 };

@@ -3,8 +3,7 @@
 #include <QCoreApplication>
 #include <QThread>
 
-TestPlatform::TestPlatform()
-    : store_(dir_.filePath("Selvane.ini")), clock_(QDate(2026, 1, 1), QTime(12, 0))
+TestPlatform::TestPlatform() : store_(dir_.filePath("Selvane.ini")), clock_(QDate(2026, 1, 1), QTime(12, 0))
 {
 }
 
@@ -39,17 +38,14 @@ void TestPlatform::sleep(int ms)
 {
     sleeps.append(ms);
     clock_ = clock_.addMSecs(ms);
-    if (realSleep && ms > 0)
-        QThread::msleep(static_cast<unsigned long>(ms));
+    if (realSleep && ms > 0) QThread::msleep(static_cast<unsigned long>(ms));
 }
 
 void TestPlatform::doEvents()
 {
     ++doEventsCount;
-    if (QCoreApplication::instance())
-        QCoreApplication::processEvents();
-    if (onDoEvents)
-        onDoEvents();
+    if (QCoreApplication::instance()) QCoreApplication::processEvents();
+    if (onDoEvents) onDoEvents();
 }
 
 QString TestPlatform::getSetting(const QString& section, const QString& key, const QString& defaultValue)
@@ -62,8 +58,14 @@ void TestPlatform::saveSetting(const QString& section, const QString& key, const
     store_.save(section, key, value);
 }
 
-void TestPlatform::deleteSetting(const QString& section, const QString& key) { store_.remove(section, key); }
-SettingList TestPlatform::allSettings(const QString& section) { return store_.all(section); }
+void TestPlatform::deleteSetting(const QString& section, const QString& key)
+{
+    store_.remove(section, key);
+}
+SettingList TestPlatform::allSettings(const QString& section)
+{
+    return store_.all(section);
+}
 
 ScopedTestPlatform::ScopedTestPlatform()
 {
@@ -72,4 +74,7 @@ ScopedTestPlatform::ScopedTestPlatform()
     previous_ = installPlatform(std::move(fresh));
 }
 
-ScopedTestPlatform::~ScopedTestPlatform() { installPlatform(std::move(previous_)); }
+ScopedTestPlatform::~ScopedTestPlatform()
+{
+    installPlatform(std::move(previous_));
+}

@@ -19,7 +19,7 @@ struct RecordedBox {
 };
 
 class TestPlatform : public Platform {
-public:
+  public:
     TestPlatform();
 
     QList<RecordedBox> boxes;
@@ -52,7 +52,7 @@ public:
     void deleteSetting(const QString& section, const QString& key) override;
     SettingList allSettings(const QString& section) override;
 
-private:
+  private:
     QTemporaryDir dir_;
     SettingsStore store_;
     QDateTime clock_;
@@ -61,13 +61,13 @@ private:
 // Installs a fresh TestPlatform for the lifetime of the object and puts the
 // previous implementation back afterwards.
 class ScopedTestPlatform {
-public:
+  public:
     ScopedTestPlatform();
     ~ScopedTestPlatform();
     TestPlatform* operator->() const { return current_; }
     TestPlatform& operator*() const { return *current_; }
 
-private:
+  private:
     TestPlatform* current_;
     std::unique_ptr<Platform> previous_;
 };

@@ -32,8 +32,7 @@ QMessageBox::StandardButton buttonOf(int answer)
 }
 QString startPath(const FileDialogRequest& request)
 {
-    if (request.fileName.isEmpty())
-        return request.directory;
+    if (request.fileName.isEmpty()) return request.directory;
     return request.directory.isEmpty() ? request.fileName : request.directory + '/' + request.fileName;
 }
 } // namespace
@@ -47,12 +46,10 @@ int WidgetsPlatform::msgBox(const QString& text, int style, const QString& title
     for (int answer : answers)
         box.addButton(buttonOf(answer));
     box.setDefaultButton(buttonOf(msgBoxDefaultAnswer(style)));
-    if (answers.contains(vbCancel))
-        box.setEscapeButton(buttonOf(vbCancel));
+    if (answers.contains(vbCancel)) box.setEscapeButton(buttonOf(vbCancel));
     box.exec();
     for (int answer : answers)
-        if (box.clickedButton() == box.button(buttonOf(answer)))
-            return answer;
+        if (box.clickedButton() == box.button(buttonOf(answer))) return answer;
     return answers.contains(vbCancel) ? int(vbCancel) : answers.first();
 }
 
@@ -70,12 +67,17 @@ QString WidgetsPlatform::saveFileName(const FileDialogRequest& request)
 
 void WidgetsPlatform::sleep(int ms)
 {
-    if (ms > 0)
-        QThread::msleep(static_cast<unsigned long>(ms));
+    if (ms > 0) QThread::msleep(static_cast<unsigned long>(ms));
 }
 
-void WidgetsPlatform::doEvents() { QApplication::processEvents(); }
-QDateTime WidgetsPlatform::now() { return QDateTime::currentDateTime(); }
+void WidgetsPlatform::doEvents()
+{
+    QApplication::processEvents();
+}
+QDateTime WidgetsPlatform::now()
+{
+    return QDateTime::currentDateTime();
+}
 
 QString WidgetsPlatform::getSetting(const QString& section, const QString& key, const QString& defaultValue)
 {
@@ -87,5 +89,11 @@ void WidgetsPlatform::saveSetting(const QString& section, const QString& key, co
     store_.save(section, key, value);
 }
 
-void WidgetsPlatform::deleteSetting(const QString& section, const QString& key) { store_.remove(section, key); }
-SettingList WidgetsPlatform::allSettings(const QString& section) { return store_.all(section); }
+void WidgetsPlatform::deleteSetting(const QString& section, const QString& key)
+{
+    store_.remove(section, key);
+}
+SettingList WidgetsPlatform::allSettings(const QString& section)
+{
+    return store_.all(section);
+}

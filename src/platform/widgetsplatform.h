@@ -6,7 +6,7 @@
 #include "platform/settingsstore.h"
 
 class WidgetsPlatform : public Platform {
-public:
+  public:
     WidgetsPlatform() = default;
 
     int msgBox(const QString& text, int style, const QString& title) override;
@@ -20,6 +20,6 @@ public:
     void deleteSetting(const QString& section, const QString& key) override;
     SettingList allSettings(const QString& section) override;
 
-private:
+  private:
     SettingsStore store_;
 };

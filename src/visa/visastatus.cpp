@@ -6,6 +6,7 @@ const char* viStatusName(ViStatus status)
     case VI_SUCCESS: return "VI_SUCCESS";
     case VI_SUCCESS_TERM_CHAR: return "VI_SUCCESS_TERM_CHAR";
     case VI_SUCCESS_MAX_CNT: return "VI_SUCCESS_MAX_CNT";
+    case VI_WARN_NULL_OBJECT: return "VI_WARN_NULL_OBJECT";
     case VI_ERROR_SYSTEM_ERROR: return "VI_ERROR_SYSTEM_ERROR";
     case VI_ERROR_INV_OBJECT: return "VI_ERROR_INV_OBJECT";
     case VI_ERROR_RSRC_LOCKED: return "VI_ERROR_RSRC_LOCKED";
@@ -16,6 +17,7 @@ const char* viStatusName(ViStatus status)
     case VI_ERROR_TMO: return "VI_ERROR_TMO";
     case VI_ERROR_NSUP_ATTR: return "VI_ERROR_NSUP_ATTR";
     case VI_ERROR_NSUP_ATTR_STATE: return "VI_ERROR_NSUP_ATTR_STATE";
+    case VI_ERROR_ATTR_READONLY: return "VI_ERROR_ATTR_READONLY";
     case VI_ERROR_ALLOC: return "VI_ERROR_ALLOC";
     case VI_ERROR_IO: return "VI_ERROR_IO";
     case VI_ERROR_NSUP_OPER: return "VI_ERROR_NSUP_OPER";
