@@ -1,7 +1,11 @@
 #pragma once
 // The simulated KV7200B as the transports see it: one command line in, the
-// reply bytes out. Everything behind this (state, signals, blocks) is the
-// instrument model's business.
+// reply bytes out. Behind it: the instrument state (simstate.h), the
+// acquisition of the signals (acquisition.h) and the command families.
+
+#include "acquisition.h"
+#include "screenpicture.h"
+#include "simstate.h"
 
 #include <QByteArray>
 #include <QString>
@@ -12,7 +16,7 @@ struct InstrumentOptions {
 };
 
 class Instrument {
-public:
+  public:
     explicit Instrument(const InstrumentOptions& options = {});
     ~Instrument();
     Instrument(const Instrument&) = delete;
@@ -24,6 +28,31 @@ public:
     // instrument does not know.
     QByteArray handle(const QByteArray& line);
 
-private:
+    // The settings as they stand.
+    const SimState& state() const { return state_; }
+    // The frame the screen holds now. The accessors below read it as it is;
+    // only readings over handle() take new frames.
+    const Frame& frame() const { return acquisition_.frame(); }
+
+    // Channel 1 to 4: 600 screen codes, 1200 in peak detect (minimum
+    // voltages, then maximum voltages); empty when the channel was off.
+    QByteArray screenCodes(int channel) const;
+    QByteArray mathCodes() const; // 600 codes
+    QByteArray fftCodes() const;  // 1024 codes
+    // Channel 1 to 4: `count` codes of the acquisition memory, one a sample
+    // period, the trigger in the middle; empty when the channel was off.
+    QByteArray recordCodes(int channel, int count) const;
+    // Channel 1 to 4: samples a second.
+    double sampleRate(int channel) const;
+    // The 80 bytes of :WAVEFORM:PARAMETER? without their block frame.
+    QByteArray parameterBytes() const;
+    // What the instrument's screen shows.
+    ScreenPicture screenPicture() const;
+
+  private:
+    QByteArray handleCommon(const QByteArray& header, bool query);
+
     InstrumentOptions options_;
+    SimState state_;
+    Acquisition acquisition_;
 };

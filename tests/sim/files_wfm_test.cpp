@@ -1,0 +1,236 @@
+#include "files_littleendian.h"
+#include "wfmwriter.h"
+
+#include <QList>
+#include <gtest/gtest.h>
+
+namespace {
+
+WfmChannel channel(bool enabled, int scale, int shift, QByteArray samples = {})
+{
+    WfmChannel record;
+    record.enabled = enabled;
+    record.scaleDisplay = scale;
+    record.shiftDisplay = static_cast<std::int16_t>(shift);
+    record.scaleMeasured = scale * 2;
+    record.shiftMeasured = static_cast<std::int16_t>(-shift);
+    record.samples = std::move(samples);
+    return record;
+}
+
+WfmContent distinctHeader()
+{
+    WfmContent content;
+    content.magic = 0xA5A1;
+    content.model = "KV7104B";
+    content.longMemory = true;
+    content.rollPosition = 1234;
+    content.channels = {channel(true, 2000, -40), channel(false, 5000000, 75), channel(true, 10000000, 0),
+                        channel(false, 500000, 100)};
+    content.timeBaseA = {3000, 500'000'000, -1'000'000'000'000, 1.0e6f, -1'500'000'000};
+    content.timeBaseB = {2500, 1'000, 25'000, 2.5e9f, -7'000'000'000'000};
+    content.extraTime = 0x123456789AB;
+    content.triggerKind = kWfmTriggerAlternation;
+    content.triggerSourceA = 2;
+    content.triggerSourceB = 3;
+    content.timeMode = WfmTimeMode::Roll;
+    content.peakFlags = 0x6;
+    content.acquireMode = kWfmAcquirePeak;
+    return content;
+}
+
+TEST(WfmWriter, HeaderFieldsStandAtTheirOffsets)
+{
+    const LittleEndianImage file(writeWfm(distinctHeader()));
+    EXPECT_EQ(file.u16(0), 0xA5A1);
+    EXPECT_EQ(file.text(4, 20), "KV7104B");
+    EXPECT_EQ(file.u8(52), 1);
+    EXPECT_EQ(file.i32(56), 1234);
+    EXPECT_EQ(file.i32(60), 3000);
+    EXPECT_EQ(file.i64(164), 500'000'000);
+    EXPECT_EQ(file.i64(172), -1'000'000'000'000);
+    EXPECT_FLOAT_EQ(file.f32(180), 1.0e6f);
+    EXPECT_EQ(file.i64(184), 0x123456789AB);
+    EXPECT_EQ(file.i64(192), -1'500'000'000);
+    EXPECT_EQ(file.u8(200), 4);
+    EXPECT_EQ(file.u8(202), 2);
+    EXPECT_EQ(file.u8(232), 3);
+    EXPECT_EQ(file.i32(268), 2500);
+    EXPECT_EQ(file.i64(272), 1'000);
+    EXPECT_EQ(file.i64(280), 25'000);
+    EXPECT_FLOAT_EQ(file.f32(288), 2.5e9f);
+    EXPECT_EQ(file.i64(300), -7'000'000'000'000);
+    EXPECT_EQ(file.u8(308), 2);
+    EXPECT_EQ(file.u8(402), 6);
+    EXPECT_EQ(file.i32(404), 2);
+}
+
+TEST(WfmWriter, ChannelRecordsFollowEachOtherEvery24Bytes)
+{
+    const WfmContent content = distinctHeader();
+    const LittleEndianImage file(writeWfm(content));
+    for (int n = 0; n < 4; ++n) {
+        SCOPED_TRACE(n);
+        const int at = 68 + 24 * n;
+        const WfmChannel& expected = content.channels[n];
+        EXPECT_EQ(file.i32(at), expected.scaleDisplay);
+        EXPECT_EQ(file.i16(at + 4), expected.shiftDisplay);
+        EXPECT_EQ(file.u8(at + 14), expected.enabled ? 1 : 0);
+        EXPECT_EQ(file.i32(at + 16), expected.scaleMeasured);
+        EXPECT_EQ(file.i16(at + 20), expected.shiftMeasured);
+    }
+}
+
+// Everything the layout doesn't name stays zero, so a reader that looks at
+// an unnamed byte finds nothing by accident.
+TEST(WfmWriter, UnnamedHeaderBytesAreZero)
+{
+    WfmContent content = distinctHeader();
+    content.model = "KV7204B";
+    const LittleEndianImage file(writeWfm(content));
+    QList<QPair<int, int>> gaps = {{2, 2},    {24, 28}, {53, 3},   {64, 4},  {201, 1}, {203, 29},
+                                   {233, 35}, {292, 8}, {309, 93}, {403, 1}, {408, 96}};
+    for (int at = 68; at < 164; at += 24)
+        gaps += {{at + 6, 8}, {at + 15, 1}, {at + 22, 2}};
+    for (const auto& [offset, size] : gaps)
+        EXPECT_EQ(file.bytes(offset, size), QByteArray(size, '\0')) << offset;
+}
+
+TEST(WfmWriter, ModelIsCutAtTwentyCharacters)
+{
+    WfmContent content;
+    content.model = "KV7204B-WITH-A-VERY-LONG-NAME";
+    const LittleEndianImage file(writeWfm(content));
+    EXPECT_EQ(file.text(4, 20), "KV7204B-WITH-A-VERY-");
+    EXPECT_EQ(file.u8(24), 0);
+}
+
+struct PlacementCase {
+    const char* name;
+    std::uint8_t triggerKind;
+    bool longMemory;
+    int count;
+    std::array<bool, 4> enabled;
+    std::array<int, 4> offset; // where a reader finds channel n
+    std::array<int, 4> source; // whose samples it finds there; -1 none
+    int fileSize;
+};
+
+class WfmPlacement : public ::testing::TestWithParam<PlacementCase> {};
+
+TEST_P(WfmPlacement, ReaderFindsEachChannelWhereTheLayoutSays)
+{
+    const PlacementCase& c = GetParam();
+    WfmContent content;
+    content.triggerKind = c.triggerKind;
+    content.longMemory = c.longMemory;
+    content.timeBaseA.sampleCount = c.count;
+    for (int n = 0; n < 4; ++n)
+        content.channels[n] =
+            channel(c.enabled[n], 1000000, 0, c.enabled[n] ? ramp(c.count, 1 + 60 * n) : QByteArray());
+    const LittleEndianImage file(writeWfm(content));
+    ASSERT_EQ(file.size(), c.fileSize);
+    for (int n = 0; n < 4; ++n) {
+        SCOPED_TRACE(n);
+        const QByteArray expected =
+            c.source[n] < 0 ? QByteArray(c.count, '\0') : ramp(c.count, 1 + 60 * c.source[n]);
+        EXPECT_EQ(file.bytes(c.offset[n], c.count), expected);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, WfmPlacement,
+                         ::testing::Values(
+                             // The pitch outside alternate trigger is the block, whatever the count.
+                             PlacementCase{"EdgeShortRecord",
+                                           0,
+                                           false,
+                                           600,
+                                           {true, true, true, true},
+                                           {420, 8612, 16804, 24996},
+                                           {0, 1, 2, 3},
+                                           33188},
+                             PlacementCase{"EdgeFullBlocks",
+                                           0,
+                                           false,
+                                           8192,
+                                           {true, true, true, true},
+                                           {420, 8612, 16804, 24996},
+                                           {0, 1, 2, 3},
+                                           33188},
+                             PlacementCase{"EdgeChannelOff",
+                                           3,
+                                           false,
+                                           4000,
+                                           {true, false, false, true},
+                                           {420, 8612, 16804, 24996},
+                                           {0, -1, -1, 3},
+                                           33188},
+                             // Long memory: neighbours read one block; the one that is on fills it.
+                             PlacementCase{"LongMemoryFirstOfPairs",
+                                           0,
+                                           true,
+                                           16384,
+                                           {true, false, true, false},
+                                           {420, 420, 16804, 16804},
+                                           {0, 0, 2, 2},
+                                           33188},
+                             PlacementCase{"LongMemorySecondOfPairs",
+                                           0,
+                                           true,
+                                           16384,
+                                           {false, true, false, true},
+                                           {420, 420, 16804, 16804},
+                                           {1, 1, 3, 3},
+                                           33188},
+                             // Alternate trigger: every channel keeps its place, on or off.
+                             PlacementCase{"AlternationAllOn",
+                                           4,
+                                           false,
+                                           1000,
+                                           {true, true, true, true},
+                                           {504, 1504, 2504, 3504},
+                                           {0, 1, 2, 3},
+                                           4504},
+                             PlacementCase{"AlternationGap",
+                                           4,
+                                           false,
+                                           700,
+                                           {true, false, true, false},
+                                           {504, 1204, 1904, 2604},
+                                           {0, -1, 2, -1},
+                                           3304},
+                             // Long memory means nothing in alternate trigger.
+                             PlacementCase{"AlternationIgnoresLongMemory",
+                                           4,
+                                           true,
+                                           500,
+                                           {true, true, false, true},
+                                           {504, 1004, 1504, 2004},
+                                           {0, 1, -1, 3},
+                                           2504}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(WfmWriter, SamplesLongerThanTheBlockStopAtItsEnd)
+{
+    WfmContent content;
+    content.timeBaseA.sampleCount = 600;
+    content.channels[0] = channel(true, 1000000, 0, QByteArray(9000, '\x7F'));
+    const LittleEndianImage file(writeWfm(content));
+    EXPECT_EQ(file.bytes(420, 8192), QByteArray(8192, '\x7F'));
+    EXPECT_EQ(file.u8(8612), 0);
+}
+
+TEST(WfmWriter, AbsurdSampleCountsGiveABoundedFile)
+{
+    WfmContent content;
+    content.triggerKind = kWfmTriggerAlternation;
+    for (int count : {-5, 0, 0x7FFFFFFF}) {
+        content.timeBaseA.sampleCount = count;
+        const QByteArray file = writeWfm(content);
+        EXPECT_GE(file.size(), 504);
+        EXPECT_LE(file.size(), 504 + 4 * 0x80000);
+        EXPECT_EQ(LittleEndianImage(file).i32(60), count);
+    }
+}
+
+} // namespace
