@@ -1,0 +1,130 @@
+// Our own implementation of the ten calls, on the object table and the backends.
+#include "visa/findpattern.h"
+#include "visa/objecttable.h"
+#include "visa/resourcelist.h"
+#include "visa/usbtmcdevices.h"
+#include "visa/visaapi.h"
+
+#include <algorithm>
+
+namespace selvane::visa {
+
+namespace {
+
+ViStatus openDefaultRM(ViPSession vi)
+{
+    if (!vi) return VI_ERROR_INV_PARAMETER;
+    *vi = builtinObjects().addManager();
+    return VI_SUCCESS;
+}
+
+void setDescription(ViChar desc[], const std::string& text)
+{
+    if (desc) copyAttributeText(text, desc);
+}
+
+ViStatus findRsrc(ViSession sesn, ViConstString expr, ViPFindList vi, ViPUInt32 retCnt, ViChar desc[])
+{
+    if (vi) *vi = VI_NULL;
+    if (retCnt) *retCnt = 0;
+    setDescription(desc, "");
+    if (!builtinObjects().isManager(sesn)) return VI_ERROR_INV_OBJECT;
+    const auto pattern = FindPattern::compile(expr ? expr : "");
+    if (!pattern) return VI_ERROR_INV_EXPR;
+    std::vector<std::string> found = listResources(kUsbmiscClassDir);
+    std::erase_if(found, [&](const std::string& name) { return !pattern->matches(name); });
+    if (found.empty()) return VI_ERROR_RSRC_NFOUND;
+    if (retCnt) *retCnt = ViUInt32(found.size());
+    setDescription(desc, found.front());
+    found.erase(found.begin());
+    if (vi) *vi = builtinObjects().addFindList(sesn, std::move(found));
+    return VI_SUCCESS;
+}
+
+ViStatus findNext(ViFindList vi, ViChar desc[])
+{
+    std::string name;
+    const ViStatus status = builtinObjects().nextFound(vi, name);
+    setDescription(desc, name);
+    return status;
+}
+
+ViStatus openResource(ViSession sesn, ViConstRsrc name, ViAccessMode mode, ViUInt32, ViPSession vi)
+{
+    if (vi) *vi = VI_NULL;
+    if (!builtinObjects().isManager(sesn)) return VI_ERROR_INV_OBJECT;
+    if (!vi) return VI_ERROR_INV_PARAMETER;
+    if ((mode & ~(VI_EXCLUSIVE_LOCK | VI_LOAD_CONFIG)) != 0) return VI_ERROR_INV_ACC_MODE;
+    const auto resource = parseResourceName(name ? name : "");
+    if (!resource) return VI_ERROR_INV_RSRC_NAME;
+    const SessionSettings settings;
+    ViStatus status = VI_SUCCESS;
+    auto backend = openBackend(*resource, settings, status);
+    if (!backend) return status < 0 ? status : VI_ERROR_RSRC_NFOUND;
+    *vi =
+        builtinObjects().addSession(sesn, std::make_shared<Session>(*resource, std::move(backend), settings));
+    return VI_SUCCESS;
+}
+
+ViStatus closeObject(ViObject vi)
+{
+    if (vi == VI_NULL) return VI_WARN_NULL_OBJECT;
+    return builtinObjects().remove(vi) ? VI_SUCCESS : VI_ERROR_INV_OBJECT;
+}
+
+ViStatus readSession(ViSession vi, ViPBuf buf, ViUInt32 cnt, ViPUInt32 retCnt)
+{
+    size_t got = 0;
+    const auto session = builtinObjects().session(vi);
+    const ViStatus status = !session          ? VI_ERROR_INV_OBJECT
+                            : !buf && cnt > 0 ? VI_ERROR_INV_PARAMETER
+                                              : session->read(buf, cnt, got);
+    if (retCnt) *retCnt = ViUInt32(got);
+    return status;
+}
+
+ViStatus writeSession(ViSession vi, ViConstBuf buf, ViUInt32 cnt, ViPUInt32 retCnt)
+{
+    size_t written = 0;
+    const auto session = builtinObjects().session(vi);
+    const ViStatus status = !session          ? VI_ERROR_INV_OBJECT
+                            : !buf && cnt > 0 ? VI_ERROR_INV_PARAMETER
+                                              : session->write(buf, cnt, written);
+    if (retCnt) *retCnt = ViUInt32(written);
+    return status;
+}
+
+ViStatus clearSession(ViSession vi)
+{
+    const auto session = builtinObjects().session(vi);
+    return session ? session->clear() : VI_ERROR_INV_OBJECT;
+}
+
+// Managers and find lists have only the manufacturer's name.
+ViStatus setAttribute(ViObject vi, ViAttr attrName, ViAttrState attrValue)
+{
+    if (const auto session = builtinObjects().session(vi)) return session->setAttribute(attrName, attrValue);
+    if (!builtinObjects().exists(vi)) return VI_ERROR_INV_OBJECT;
+    return attrName == VI_ATTR_RSRC_MANF_NAME ? VI_ERROR_ATTR_READONLY : VI_ERROR_NSUP_ATTR;
+}
+
+ViStatus getAttribute(ViObject vi, ViAttr attrName, void* attrValue)
+{
+    if (!attrValue) return VI_ERROR_INV_PARAMETER;
+    if (const auto session = builtinObjects().session(vi)) return session->getAttribute(attrName, attrValue);
+    if (!builtinObjects().exists(vi)) return VI_ERROR_INV_OBJECT;
+    if (attrName != VI_ATTR_RSRC_MANF_NAME) return VI_ERROR_NSUP_ATTR;
+    copyAttributeText(kManufacturerName, attrValue);
+    return VI_SUCCESS;
+}
+
+} // namespace
+
+const VisaApi& builtinApi()
+{
+    static const VisaApi api{openDefaultRM, findRsrc,     findNext,     openResource, closeObject,
+                             readSession,   writeSession, clearSession, setAttribute, getAttribute};
+    return api;
+}
+
+} // namespace selvane::visa

@@ -1,0 +1,147 @@
+// TCPIP::host::hislip0[,port]::INSTR: a synchronous channel for data and an
+// asynchronous one for device clear, paired by the session id the server gives.
+#include "visa/backend.h"
+#include "visa/hislipframe.h"
+#include "visa/resourcename.h"
+#include "visa/tcpsocket.h"
+#include "visa/xdr.h"
+
+#include <algorithm>
+
+namespace selvane::visa {
+
+namespace {
+
+using namespace hislip;
+
+constexpr uint32_t kClientVersion = 0x0100; // 1.0
+constexpr uint32_t kVendorId = ('S' << 8) | 'V';
+constexpr uint32_t kFirstMessageId = 0xFFFFFF00u;
+// What we ask the server to keep its messages to; we buffer beyond a read's limit anyway.
+constexpr uint64_t kClientMaximum = 1u << 20;
+
+std::vector<uint8_t> sizePayload(uint64_t size)
+{
+    std::vector<uint8_t> bytes;
+    appendBigEndian32(bytes, uint32_t(size >> 32));
+    appendBigEndian32(bytes, uint32_t(size));
+    return bytes;
+}
+
+class HislipBackend : public Backend {
+  public:
+    ViStatus open(const ResourceName& name);
+    ViStatus write(const uint8_t* data, size_t size, const Deadline& deadline, size_t& written) override;
+    ViStatus fetch(size_t wanted, const ReadSettings& settings, const Deadline& deadline,
+                   InputQueue& queue) override;
+    ViStatus clear(const Deadline& deadline) override;
+    ViStatus apply(const SessionSettings& settings) override
+    {
+        setTcpOptions(sync_, settings.keepAlive, settings.noDelay);
+        setTcpOptions(async_, settings.keepAlive, settings.noDelay);
+        return VI_SUCCESS;
+    }
+
+  private:
+    ViStatus initialize(const ResourceName& name, const Deadline& deadline);
+    ViStatus negotiateSize(const Deadline& deadline);
+
+    FdChannel sync_;
+    FdChannel async_;
+    uint32_t messageId_ = kFirstMessageId;
+    size_t serverPiece_ = kClientMaximum;
+};
+
+ViStatus HislipBackend::open(const ResourceName& name)
+{
+    const Deadline deadline(kConnectTimeoutMs);
+    ViStatus status = connectTcp(name.host, name.port, sync_);
+    if (status == VI_SUCCESS) status = initialize(name, deadline);
+    if (status == VI_SUCCESS) status = negotiateSize(deadline);
+    return status == VI_SUCCESS ? status : VI_ERROR_RSRC_NFOUND;
+}
+
+ViStatus HislipBackend::initialize(const ResourceName& name, const Deadline& deadline)
+{
+    const auto* subAddress = reinterpret_cast<const uint8_t*>(name.deviceName.data());
+    Message reply;
+    ViStatus status = send(sync_, Initialize, 0, kClientVersion << 16 | kVendorId, deadline, subAddress,
+                           name.deviceName.size());
+    if (status == VI_SUCCESS) status = await(sync_, InitializeResponse, deadline, reply);
+    const uint32_t sessionId = reply.parameter & 0xFFFF;
+    if (status == VI_SUCCESS) status = connectTcp(name.host, name.port, async_);
+    if (status == VI_SUCCESS) status = send(async_, AsyncInitialize, 0, sessionId, deadline);
+    if (status == VI_SUCCESS) status = await(async_, AsyncInitializeResponse, deadline, reply);
+    return status;
+}
+
+ViStatus HislipBackend::negotiateSize(const Deadline& deadline)
+{
+    const std::vector<uint8_t> ours = sizePayload(kClientMaximum);
+    Message reply;
+    ViStatus status = send(async_, AsyncMaximumMessageSize, 0, 0, deadline, ours.data(), ours.size());
+    if (status == VI_SUCCESS) status = await(async_, AsyncMaximumMessageSizeResponse, deadline, reply);
+    if (status == VI_SUCCESS && reply.payload.size() == 8) {
+        const uint64_t theirs =
+            uint64_t(readBigEndian32(reply.payload.data())) << 32 | readBigEndian32(reply.payload.data() + 4);
+        // The maximum counts the header too; keep a sane floor against odd answers.
+        serverPiece_ = size_t(
+            std::clamp<uint64_t>(theirs > kHeaderSize ? theirs - kHeaderSize : 0, 256, kClientMaximum));
+    }
+    return status;
+}
+
+ViStatus HislipBackend::write(const uint8_t* data, size_t size, const Deadline& deadline, size_t& written)
+{
+    written = 0;
+    do {
+        const size_t piece = std::min(size - written, serverPiece_);
+        const bool last = written + piece == size;
+        const ViStatus status =
+            send(sync_, last ? DataEnd : Data, 0, messageId_, deadline, data + written, piece);
+        messageId_ += 2;
+        if (status != VI_SUCCESS) return status;
+        written += piece;
+    } while (written < size);
+    return VI_SUCCESS;
+}
+
+ViStatus HislipBackend::fetch(size_t, const ReadSettings&, const Deadline& deadline, InputQueue& queue)
+{
+    for (;;) {
+        Message message;
+        if (const ViStatus status = receive(sync_, deadline, message); status != VI_SUCCESS) return status;
+        if (message.type == Data || message.type == DataEnd) {
+            queue.push(message.payload.data(), message.payload.size(), message.type == DataEnd);
+            return VI_SUCCESS;
+        }
+        if (message.type == FatalError) return VI_ERROR_CONN_LOST;
+    }
+}
+
+// Async clear, its acknowledgement, then DeviceClearComplete on the synchronous
+// channel; data still in flight before the server's acknowledgement is dropped.
+ViStatus HislipBackend::clear(const Deadline& deadline)
+{
+    Message reply;
+    ViStatus status = send(async_, AsyncDeviceClear, 0, 0, deadline);
+    if (status == VI_SUCCESS) status = await(async_, AsyncDeviceClearAcknowledge, deadline, reply);
+    if (status == VI_SUCCESS) status = send(sync_, DeviceClearComplete, reply.control, 0, deadline);
+    if (status == VI_SUCCESS) status = await(sync_, DeviceClearAcknowledge, deadline, reply);
+    messageId_ = kFirstMessageId;
+    return status;
+}
+
+} // namespace
+
+std::unique_ptr<Backend> openHislipBackend(const ResourceName& name, const SessionSettings& settings,
+                                           ViStatus& status)
+{
+    auto backend = std::make_unique<HislipBackend>();
+    status = backend->open(name);
+    if (status != VI_SUCCESS) return nullptr;
+    backend->apply(settings);
+    return backend;
+}
+
+} // namespace selvane::visa
