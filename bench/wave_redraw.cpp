@@ -1,0 +1,109 @@
+// Cost of a full wave-picture redraw and of placing a received block into a record.
+#include "acquire/blockplacement.h"
+#include "acquire/waveparameter.h"
+#include "wave/qimagesurface.h"
+#include "wave/wavedrawing.h"
+
+#include <QGuiApplication>
+#include <benchmark/benchmark.h>
+#include <cmath>
+#include <vector>
+
+namespace {
+
+// A Y-T reading of four channels over the whole screen, sine waves at four heights.
+WaveRecord fourChannelRecord()
+{
+    WaveRecord r;
+    r.HasData = r.YTMode = r.ColorMode = r.GridOn = true;
+    r.Points = 600;
+    r.TriggerMode = QStringLiteral("EDGE");
+    r.FFTDisplayText = QStringLiteral("OFF");
+    r.Parameter.s16ScrEndPos = 299;
+    r.TimeScaleText = QStringLiteral("1.000ms");
+    r.TimeOffsetText = QStringLiteral("0.000s");
+    for (int n = 1; n <= 4; ++n) {
+        r.setShowChannel(n, true);
+        r.PrevShow[n] = true;
+        r.ScaleText[n] = QStringLiteral("1.00V");
+        r.OffsetText[n] = QString::number(2 - n) + QStringLiteral(".00V");
+        WaveArray& wave = r.channelWave(n);
+        wave.assign(2049, 0);
+        for (int i = 213; i <= 812; ++i)
+            wave[i] = int(50.0 * n - 20 + 18 * std::sin(i * 0.05 * n));
+    }
+    return r;
+}
+
+void BM_FullRedraw(benchmark::State& state)
+{
+    const double zoom = state.range(0) / 100.0;
+    const WaveRecord record = fourChannelRecord();
+    QImageSurface surface(QSize(int(350 * zoom), int(250 * zoom)));
+    const WaveCanvas canvas(surface, zoom);
+    for (auto _ : state) {
+        DrawScrGrid(canvas, record);
+        DrawOSC(canvas, record);
+        benchmark::DoNotOptimize(surface.image().constBits());
+    }
+}
+BENCHMARK(BM_FullRedraw)->Arg(100)->Arg(400)->Unit(benchmark::kMicrosecond);
+
+std::vector<int32_t> blockOf(int count)
+{
+    std::vector<int32_t> codes(6201);
+    for (int i = 1; i < 6201; ++i)
+        codes[i] = (i * 37) % 256;
+    codes.resize(std::min(count, 6200) + 1);
+    return codes;
+}
+
+void BM_PlaceTraceBlock(benchmark::State& state)
+{
+    const std::vector<int32_t> codes = blockOf(int(state.range(0)));
+    WaveArray trace;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(PlaceTraceBlock(codes, int(state.range(0)), TraceSource::Channel, 0, trace));
+        benchmark::DoNotOptimize(trace.data());
+    }
+}
+// A screen of 600 samples, and a block of the largest size a read may bring (it ends at the array's bound).
+BENCHMARK(BM_PlaceTraceBlock)->Arg(600)->Arg(6400);
+
+void BM_PlacePeakBlock(benchmark::State& state)
+{
+    const std::vector<int32_t> codes = blockOf(1200);
+    WaveArray first, second;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(PlacePeakBlock(codes, 1200, 0, first, second));
+        benchmark::DoNotOptimize(second.data());
+    }
+}
+BENCHMARK(BM_PlacePeakBlock);
+
+void BM_Lindquay(benchmark::State& state)
+{
+    unsigned char block[WaveParameterSize];
+    for (std::size_t i = 0; i < sizeof block; ++i)
+        block[i] = static_cast<unsigned char>(i * 7);
+    WaveParameter parameter;
+    for (auto _ : state) {
+        Lindquay(block, &parameter);
+        benchmark::DoNotOptimize(parameter);
+    }
+}
+BENCHMARK(BM_Lindquay);
+
+} // namespace
+
+// Text needs fonts, and fonts need a GUI application; offscreen, so no display is required.
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

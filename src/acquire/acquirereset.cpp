@@ -1,0 +1,12 @@
+#include "acquire/acquirereset.h"
+
+#include "acquire/tabletext.h"
+#include "acquire/wavebytes.h"
+#include "acquire/waverecord.h"
+
+void ResetAcquireState()
+{
+    ResetWaveRecords();
+    ResetWaveBytes();
+    ResetTableTexts();
+}

@@ -1,0 +1,44 @@
+#include "wave/alternation.h"
+
+#include <QStringList>
+#include <utility>
+
+namespace {
+
+InstrumentQuery& sourceQuery()
+{
+    static InstrumentQuery query = [](const QString&) { return QString(); };
+    return query;
+}
+
+} // namespace
+
+bool IsChannelPairOrdered(const QString& sourceText)
+{
+    static const QStringList ordered = {
+        QStringLiteral("CH3CH4"), QStringLiteral("CHANNEL3CHANNEL4"), QStringLiteral("CHAN3CHAN4"),
+        QStringLiteral("CH1CH2"), QStringLiteral("CHANNEL1CHANNEL2"), QStringLiteral("CHAN1CHAN2")};
+    return ordered.contains(sourceText.toUpper());
+}
+
+InstrumentQuery SetAlternationSourceQuery(InstrumentQuery query)
+{
+    if (!query) query = [](const QString&) { return QString(); };
+    return std::exchange(sourceQuery(), std::move(query));
+}
+
+bool AskChannelPairOrdered()
+{
+    const QString reply = StripAtLineFeed(sourceQuery()(QStringLiteral(":TRIGGER:ALTERNATION:SOURCE?")));
+    return IsChannelPairOrdered(reply);
+}
+
+AltPlacement AltPlacementOf(int channel, bool ordered, const WaveParameter& parameter)
+{
+    // CH1 always follows source A and CH4 source B; CH2 and CH3 swap with the pair's order.
+    bool lower = channel == 4;
+    if (channel == 2) lower = ordered;
+    if (channel == 3) lower = !ordered;
+    if (lower) return {true, parameter.s16ScrStartPosB, parameter.s16ScrEndPosB};
+    return {false, parameter.s16ScrStartPosA, parameter.s16ScrEndPosA};
+}

@@ -1,0 +1,214 @@
+#include "drawtesting.h"
+#include "wave/wavedrawing.h"
+
+namespace {
+
+struct LegendCase {
+    const char* name;
+    const char* fft;
+    const char* mode;
+    int8_t fftScreen;
+    int8_t fftSource;
+    int16_t offset; // s16MathOffset, or s16FFTVertOffset with FFT on
+    double Y;       // top of the marker
+};
+
+class MathMarkerTest : public ::testing::TestWithParam<LegendCase> {};
+
+// m = 100 - offset, halved on a split screen, lifted 100z into the lower half;
+// Y = 25 + m z - 5 + lift.
+TEST_P(MathMarkerTest, PlacedByModeAndSpectrum)
+{
+    const LegendCase& c = GetParam();
+    WaveParameter p;
+    p.s8FFTScreen = c.fftScreen;
+    p.s8FFTSource = c.fftSource;
+    p.s16MathOffset = c.offset;
+    p.s16FFTVertOffset = c.offset;
+    RecordingSurface s;
+    DrawMathLegend(WaveCanvas(s, 1), p, QString::fromLatin1(c.mode), QString::fromLatin1(c.fft));
+    const double Y = c.Y;
+    EXPECT_EQ(PathOf(s.calls()), Closed({{6, Y}, {19, Y}, {23, Y + 5}, {19, Y + 10}, {6, Y + 10}}));
+    const std::vector<SurfaceCall> texts = TextsOf(s);
+    ASSERT_FALSE(texts.empty());
+    EXPECT_EQ(texts[0].text, QStringLiteral("m"));
+    EXPECT_EQ(texts[0].to, QPointF(9, Y - 3));
+    EXPECT_TRUE(texts[0].opaque);
+}
+
+INSTANTIATE_TEST_SUITE_P(Places, MathMarkerTest,
+                         ::testing::Values(LegendCase{"MathFull", "OFF", "EDGE", 0, 0, 0, 120},
+                                           LegendCase{"MathAltLower", "OFF", "ALTERNATION", 0, 0, 0, 170},
+                                           LegendCase{"FftOwnScreen", "ON", "EDGE", 1, 0, 40, 80},
+                                           LegendCase{"FftSharedScreen", "ON", "EDGE", 0, 0, 40, 150},
+                                           LegendCase{"FftAltSourceA", "ON", "ALTERNATION", 0, 0, 0, 70},
+                                           LegendCase{"FftAltSourceB", "ON", "ALTERNATION", 0, 1, 0, 170},
+                                           LegendCase{"TopRow", "OFF", "EDGE", 0, 0, 100, 20},
+                                           LegendCase{"OddRowHalved", "OFF", "ALTERNATION", 0, 0, -1, 170.5}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(DrawMathLegend, OutsideTheGridDrawsNothingAtAll)
+{
+    for (int16_t offset : {int16_t(-100), int16_t(101), int16_t(-32768)}) {
+        WaveParameter p;
+        p.s16MathOffset = offset;
+        RecordingSurface s;
+        DrawMathLegend(WaveCanvas(s, 1), p, QStringLiteral("EDGE"), QStringLiteral("OFF"));
+        EXPECT_TRUE(s.calls().empty()) << offset;
+    }
+}
+
+struct LegendTextCase {
+    const char* name;
+    int8_t operate;
+    int8_t scaleType;
+    std::vector<std::pair<QPointF, QString>> texts; // after the "m"
+};
+
+class MathLegendTextTest : public ::testing::TestWithParam<LegendTextCase> {};
+
+TEST_P(MathLegendTextTest, TextsUnderTheGrid)
+{
+    const LegendTextCase& c = GetParam();
+    WaveParameter p;
+    p.s8MathOperate = c.operate;
+    p.s8FFTScaleType = c.scaleType;
+    p.f32MathScale = 0.5f;
+    p.f32FFTVrms = 2.0f;
+    p.s16FFTdBVrms = 20;
+    p.f32FFTHorizScale = 1000.0f;
+    RecordingSurface s;
+    DrawMathLegend(WaveCanvas(s, 1), p, QStringLiteral("EDGE"), QStringLiteral("OFF"));
+    std::vector<std::pair<QPointF, QString>> texts;
+    for (const SurfaceCall& t : TextsOf(s)) {
+        if (t.text == QLatin1String("m")) continue;
+        EXPECT_FALSE(t.opaque);
+        texts.emplace_back(t.to, t.text);
+    }
+    EXPECT_EQ(texts, c.texts);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Operations, MathLegendTextTest,
+    ::testing::Values(LegendTextCase{"Sum", 0, 0, {{{25, 249}, QStringLiteral("Math scale 500mV")}}},
+                      LegendTextCase{"Product", 2, 0, {{{25, 249}, QStringLiteral("Math scale 500mV2")}}},
+                      LegendTextCase{"FftVrms",
+                                     3,
+                                     0,
+                                     {{{25, 239}, QStringLiteral("FFT 2.00Vrms/div  ")},
+                                      {{175, 249}, QStringLiteral("1.000kHz/div")}}},
+                      LegendTextCase{"FftDb",
+                                     3,
+                                     1,
+                                     {{{25, 239}, QStringLiteral("FFT 20.0dBVrms/div ")},
+                                      {{175, 249}, QStringLiteral("1.000kHz/div")}}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(DrawMathTrace, ArrayWithoutMargin)
+{
+    // Index 2 start + 2: start 3 gives the first line from index 7 to 8 at x 28.
+    WaveParameter p;
+    p.s16ScrStartPos = 3;
+    p.s16ScrEndPos = 299;
+    RecordingSurface s;
+    DrawMathTrace(WaveCanvas(s, 1), Ramp(1025), 600, p, QStringLiteral("EDGE"));
+    ASSERT_FALSE(s.calls().empty());
+    EXPECT_EQ(PathOf({s.calls()[0]}), (Path{{28, 32}, {28, 33}}));
+    EXPECT_EQ(s.calls()[1].to, QPointF(29, 34));
+}
+
+TEST(DrawMathTrace, AlternateTriggerUsesSourceBInTheLowerHalf)
+{
+    WaveParameter p;
+    p.s16ScrStartPos = 3;
+    p.s16ScrStartPosB = 10;
+    p.s16ScrEndPosB = 12;
+    RecordingSurface s;
+    DrawMathTrace(WaveCanvas(s, 1), Ramp(1025), 600, p, QStringLiteral("ALTERNATION"));
+    ASSERT_EQ(s.calls().size(), 1u + 3u); // x 36, 36.5, 37
+    EXPECT_EQ(PathOf({s.calls()[0]}), (Path{{35, 125 + 10.5}, {35, 125 + 11}}));
+    EXPECT_EQ(s.calls().back().to, QPointF(37, 125 + 12.5));
+}
+
+struct FftWidthCase {
+    int16_t scale;
+    int width;
+    int right; // min(150 + width / 2 rounded, 299) with offset 0
+};
+
+class FftWidthTest : public ::testing::TestWithParam<FftWidthCase> {};
+
+// Offset 0: x0 = 175 (left 150), index 2; steps of 0.5 from 176 to right + 24.
+TEST_P(FftWidthTest, WidthSetsTheRightEnd)
+{
+    const FftWidthCase& c = GetParam();
+    EXPECT_EQ(FftWidth(c.scale), c.width);
+    WaveParameter p;
+    p.s16FFTHorizScale = c.scale;
+    p.s8FFTScreen = 1;
+    RecordingSurface s;
+    DrawFftTrace(WaveCanvas(s, 1), Ramp(2049), 600, p, QStringLiteral("EDGE"));
+    const std::vector<SurfaceCall>& calls = s.calls();
+    ASSERT_EQ(calls.size(), 1u + 2u * (c.right - 151) + 1u);
+    EXPECT_EQ(PathOf({calls[0]}), (Path{{175, 26}, {175, 27}}));
+    EXPECT_EQ(calls.back().to.x(), c.right + 25);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, FftWidthTest,
+                         ::testing::Values(FftWidthCase{0, 500, 299}, FftWidthCase{1, 5000, 299},
+                                           FftWidthCase{2, 2500, 299}, FftWidthCase{3, 1000, 299},
+                                           FftWidthCase{4, 500, 299}, FftWidthCase{5, 250, 275},
+                                           FftWidthCase{6, 100, 200}, FftWidthCase{7, 25, 162},
+                                           FftWidthCase{8, 500, 299}));
+
+TEST(DrawFftTrace, OffsetShiftsAndEndsTheSpectrum)
+{
+    WaveParameter p;
+    p.s16FFTHorizScale = 7; // width 25: (25 + 300) / 2 = 162.5
+    p.s8FFTScreen = 1;
+    p.s16FFTHorizOffset = 163;
+    RecordingSurface s;
+    DrawFftTrace(WaveCanvas(s, 1), Ramp(2049), 600, p, QStringLiteral("EDGE"));
+    EXPECT_TRUE(s.calls().empty());
+    // 162: left 0, right 0.5 rounded to 0, index 2 * 162 - 298 = 26: the first line alone.
+    p.s16FFTHorizOffset = 162;
+    DrawFftTrace(WaveCanvas(s, 1), Ramp(2049), 600, p, QStringLiteral("EDGE"));
+    ASSERT_EQ(s.calls().size(), 1u);
+    EXPECT_EQ(PathOf(s.calls()), (Path{{25, 50}, {25, 51}}));
+}
+
+struct FftRowCase {
+    const char* name;
+    const char* mode;
+    int8_t fftSource;
+    bool modelHasBFlag;
+    int sample;
+    double y;
+};
+
+class FftRowTest : public ::testing::TestWithParam<FftRowCase> {};
+
+// Shared screen: y = y0 + min(s + c, 100) z, c 12.5 without the B flag.
+TEST_P(FftRowTest, SpectrumKeepsToItsHalf)
+{
+    const FftRowCase& c = GetParam();
+    WaveParameter p;
+    p.s8FFTScreen = 0;
+    p.s8FFTSource = c.fftSource;
+    WaveArray fft(2049, c.sample);
+    RecordingSurface s;
+    DrawFftTrace(WaveCanvas(s, 1, c.modelHasBFlag), fft, 600, p, QString::fromLatin1(c.mode));
+    ASSERT_FALSE(s.calls().empty());
+    EXPECT_EQ(s.calls()[0].to.y(), c.y);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, FftRowTest,
+                         ::testing::Values(FftRowCase{"Lower", "EDGE", 0, true, 50, 175},
+                                           FftRowCase{"LowerLifted", "EDGE", 0, false, 50, 187.5},
+                                           FftRowCase{"LiftedCapped", "EDGE", 0, false, 95, 225},
+                                           FftRowCase{"Capped", "EDGE", 0, true, 150, 225},
+                                           FftRowCase{"AltSourceAUpper", "ALTERNATION", 0, true, 50, 75},
+                                           FftRowCase{"AltSourceBLower", "ALTERNATION", 1, true, 50, 175}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+} // namespace

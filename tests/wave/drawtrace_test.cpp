@@ -1,0 +1,200 @@
+#include "drawtesting.h"
+#include "wave/wavedrawing.h"
+
+namespace {
+
+WaveParameter positions(int start, int end)
+{
+    WaveParameter p;
+    p.s16ScrStartPos = static_cast<int16_t>(start);
+    p.s16ScrEndPos = static_cast<int16_t>(end);
+    return p;
+}
+
+std::vector<SurfaceCall> drawChannel(const WaveArray& wave, double zoom, const WaveParameter& p,
+                                     int points = 600, const char* fft = "OFF", const char* mode = "EDGE",
+                                     int channel = 1)
+{
+    RecordingSurface s;
+    DrawChannelTrace(WaveCanvas(s, zoom), wave, points, channel, p, QString::fromLatin1(mode),
+                     QString::fromLatin1(fft));
+    return s.calls();
+}
+
+// Full screen at zoom 1: x0 25, first line from sample index 213 to 214; then
+// steps of 0.5 from x = 26 to 324, px = x - 0.1 rounded, index 215 onward.
+TEST(DrawChannelTrace, FullScreenFirstSegmentsAndLastPoint)
+{
+    const WaveArray wave = Ramp(2049);
+    const std::vector<SurfaceCall> calls = drawChannel(wave, 1, positions(0, 299));
+    ASSERT_EQ(calls.size(), 1u + 597u);
+    EXPECT_EQ(calls[0].kind, SurfaceCall::Line);
+    EXPECT_EQ(PathOf({calls[0]}), (Path{{25, 25 + 13}, {25, 25 + 14}})); // rows 213 % 200, 214 % 200
+    const Path firstSteps{{26, 25 + 15}, {26, 25 + 16}, {27, 25 + 17}, {27, 25 + 18}, {28, 25 + 19}};
+    for (std::size_t k = 0; k < firstSteps.size(); ++k) {
+        EXPECT_EQ(calls[1 + k].kind, SurfaceCall::LineTo);
+        EXPECT_EQ(calls[1 + k].to, firstSteps[k]) << "step " << k;
+    }
+    EXPECT_EQ(calls.back().to, QPointF(324, 25 + 811 % 200));
+}
+
+TEST(DrawChannelTrace, StartPositionAndZoomTwo)
+{
+    // x0 = 25 + 10 * 2; index 2 * 10 + 214; step 1 from 47 to 21 * 2 + 24 = 66.
+    const WaveArray wave = Ramp(2049);
+    const std::vector<SurfaceCall> calls = drawChannel(wave, 2, positions(10, 20));
+    ASSERT_EQ(calls.size(), 1u + 20u);
+    EXPECT_EQ(PathOf({calls[0]}), (Path{{45, 25 + 2 * 33}, {45, 25 + 2 * 34}}));
+    EXPECT_EQ(calls[1].to, QPointF(47, 25 + 2 * 35));
+    EXPECT_EQ(calls.back().to, QPointF(66, 25 + 2 * 54));
+}
+
+TEST(DrawChannelTrace, StepsRoundInSinglePrecision)
+{
+    // Zoom 1.2: steps of 0.6 from 26.2. The fifth x adds up to 28.600000000000005;
+    // less 0.1 it is 28.5 in single precision and rounds to the even 28 (29 in double).
+    const std::vector<SurfaceCall> calls = drawChannel(Ramp(2049), 1.2, positions(0, 299));
+    ASSERT_GT(calls.size(), 7u);
+    const std::vector<double> xs{calls[1].to.x(), calls[2].to.x(), calls[3].to.x(),
+                                 calls[4].to.x(), calls[5].to.x(), calls[6].to.x()};
+    EXPECT_EQ(xs, (std::vector<double>{26, 27, 27, 28, 28, 29}));
+}
+
+TEST(DrawChannelTrace, StartRoundsHalfToEven)
+{
+    // 5 * 0.5 = 2.5 rounds to 2.
+    const std::vector<SurfaceCall> calls = drawChannel(Ramp(2049), 0.5, positions(5, 299));
+    ASSERT_FALSE(calls.empty());
+    EXPECT_EQ(calls[0].from.x(), 27);
+}
+
+struct HalfCase {
+    const char* name;
+    const char* mode;
+    const char* fft;
+    int8_t fftScreen;
+    const char* pair;
+    int channel;
+    double y0;
+    int startIndex;
+};
+
+class TracePlacementTest : public ::testing::TestWithParam<HalfCase> {};
+
+// Rows are y0 + s / 2 on a split screen. In alternate trigger the channel takes
+// the positions of its source: A (start 4) upper, B (start 8) lower.
+TEST_P(TracePlacementTest, HalfAndPositions)
+{
+    const HalfCase& c = GetParam();
+    ScriptedSourcePair pair(QString::fromLatin1(c.pair));
+    WaveParameter p = positions(0, 299);
+    p.s8FFTScreen = c.fftScreen;
+    p.s16ScrStartPosA = 4;
+    p.s16ScrEndPosA = 299;
+    p.s16ScrStartPosB = 8;
+    p.s16ScrEndPosB = 299;
+    const WaveArray wave = Ramp(2049);
+    const std::vector<SurfaceCall> calls = drawChannel(wave, 1, p, 600, c.fft, c.mode, c.channel);
+    ASSERT_FALSE(calls.empty());
+    const int start = (c.startIndex - 214) / 2;
+    EXPECT_EQ(PathOf({calls[0]}), (Path{{25.0 + start, c.y0 + (c.startIndex - 1) % 200 / 2.0},
+                                        {25.0 + start, c.y0 + c.startIndex % 200 / 2.0}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Halves, TracePlacementTest,
+    ::testing::Values(HalfCase{"SharedSpectrumUpper", "EDGE", "ON", 0, "", 2, 25, 214},
+                      HalfCase{"AltCh1Upper", "ALTERNATION", "OFF", 1, "CH1CH4", 1, 25, 222},
+                      HalfCase{"AltCh4Lower", "ALTERNATION", "OFF", 1, "CH1CH4", 4, 125, 230},
+                      HalfCase{"AltCh2UpperNotOrdered", "ALTERNATION", "OFF", 1, "CH2CH3", 2, 25, 222},
+                      HalfCase{"AltCh3LowerNotOrdered", "ALTERNATION", "OFF", 1, "CH2CH3", 3, 125, 230},
+                      HalfCase{"AltCh2LowerOrdered", "ALTERNATION", "OFF", 1, "CH1CH2", 2, 125, 230},
+                      HalfCase{"AltCh3UpperOrdered", "ALTERNATION", "OFF", 1, "CHANNEL3CHANNEL4", 3, 25,
+                               222}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(DrawChannelTrace, FullScreenWhenSpectrumHasItsOwnScreen)
+{
+    WaveParameter p = positions(0, 299);
+    p.s8FFTScreen = 1;
+    const std::vector<SurfaceCall> calls = drawChannel(Ramp(2049), 1, p, 600, "ON");
+    EXPECT_EQ(calls[0].to, QPointF(25, 25 + 14));
+}
+
+struct EndCase {
+    const char* name;
+    std::size_t arraySize;
+    int points;
+    std::size_t calls;
+};
+
+class TraceEndTest : public ::testing::TestWithParam<EndCase> {};
+
+TEST_P(TraceEndTest, EndsWhereTheArrayOrTheStepsEnd)
+{
+    const EndCase& c = GetParam();
+    EXPECT_EQ(drawChannel(Ramp(c.arraySize), 1, positions(0, 299), c.points).size(), c.calls);
+}
+
+INSTANTIATE_TEST_SUITE_P(Ends, TraceEndTest,
+                         ::testing::Values(EndCase{"ShortArray", 300, 600, 1 + 85},
+                                           EndCase{"NoArray", 0, 600, 0},
+                                           EndCase{"OnlyIndex213", 214, 600, 0},
+                                           EndCase{"ZeroPoints", 2049, 0, 1},
+                                           EndCase{"NegativePoints", 2049, -600, 1},
+                                           EndCase{"ThreeHundredPoints", 2049, 300, 1 + 299}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(DrawChannelTrace, StartBeyondSixteenBitsDrawsNothing)
+{
+    EXPECT_TRUE(drawChannel(Ramp(2049), 100, positions(400, 500)).empty());
+}
+
+// Peak halves: A = 10 + index % 7, B = 150 + index % 5; full screen, zoom 1,
+// positions 0 to 2: first index 213, steps at x = 26, 26.5, 27.
+TEST(DrawPeakTrace, EnvelopeLinesInOrder)
+{
+    WaveArray a(2049), b(2049);
+    for (int i = 0; i < 2049; ++i) {
+        a[i] = 10 + i % 7;
+        b[i] = 150 + i % 5;
+    }
+    const auto ya = [&](int i) { return 25.0 + a[i]; };
+    const auto yb = [&](int i) { return 25.0 + b[i]; };
+    RecordingSurface s;
+    DrawPeakTrace(WaveCanvas(s, 1), a, b, 600, 1, positions(0, 2), QStringLiteral("EDGE"),
+                  QStringLiteral("OFF"));
+    std::vector<Path> lines;
+    for (const SurfaceCall& c : s.calls())
+        lines.push_back({c.from, c.to});
+    std::vector<Path> expected{
+        {{25, ya(212)}, {25, ya(213)}}, {{25, yb(212)}, {25, yb(213)}}, {{25, yb(212)}, {25, ya(212)}}};
+    const double pxs[] = {26, 26, 27};
+    double prev = 25;
+    for (int k = 0; k < 3; ++k) {
+        const int i = 214 + k;
+        expected.push_back({{prev, ya(i - 1)}, {pxs[k], ya(i)}});
+        expected.push_back({{prev, yb(i - 1)}, {pxs[k], yb(i)}});
+        expected.push_back({{prev, yb(i - 1)}, {prev, ya(i - 1)}});
+        prev = pxs[k];
+    }
+    expected.push_back({{27, ya(216)}, {27, yb(216)}});
+    EXPECT_EQ(lines, expected);
+    for (const SurfaceCall& c : s.calls())
+        EXPECT_EQ(c.kind, SurfaceCall::Line);
+}
+
+TEST(DrawPeakEnvelope, HalfScaleAndEarlyEnd)
+{
+    // Half flag: rows y0 + s z / 2. The arrays end at the start index: no step, no closing vertical.
+    const WaveArray a{0, 0, 0, 0, 40, 60}, b{0, 0, 0, 0, 100, 120};
+    RecordingSurface s;
+    DrawPeakEnvelope(WaveCanvas(s, 2), a, b, 5, 30, 125, 299, 600, true);
+    std::vector<Path> lines;
+    for (const SurfaceCall& c : s.calls())
+        lines.push_back({c.from, c.to});
+    EXPECT_EQ(lines,
+              (std::vector<Path>{{{30, 165}, {30, 185}}, {{30, 225}, {30, 245}}, {{30, 225}, {30, 165}}}));
+}
+
+} // namespace
