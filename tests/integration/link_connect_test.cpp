@@ -1,0 +1,90 @@
+// ConnectDevice, the reads and DisconnectDevice against kv7200b-sim over every
+// transport, and the refusals of instruments the program doesn't support.
+#include "link_simlink.h"
+
+#include "controller/valuetext.h"
+#include "link/connection.h"
+#include "link/devicefacts.h"
+#include "link/linkcommands.h"
+#include "link/linkstate.h"
+
+#include <QThread>
+
+namespace {
+
+const QString KeyRelease = QStringLiteral(":KEY:LOCK DISABLE");
+
+class TransportTable : public SimLinkTest, public ::testing::WithParamInterface<LinkTransport> {
+  protected:
+    static void SetUpTestSuite() { link = std::make_unique<SimLink>(); }
+    static void TearDownTestSuite() { link.reset(); }
+    static inline std::unique_ptr<SimLink> link;
+};
+
+TEST_P(TransportTable, ConnectsIdentifiesAndReleasesTheKeysOnLeaving)
+{
+    ASSERT_TRUE(link->started()) << link->errorString().toStdString();
+    link->aim(GetParam());
+    const qsizetype released = link->loggedCommands().count(KeyRelease);
+
+    ConnectDevice();
+
+    ASSERT_TRUE(Connected) << boxTexts().join("; ").toStdString();
+    EXPECT_FALSE(Connecting);
+    EXPECT_TRUE(platform->boxes.isEmpty());
+    EXPECT_EQ(ModelName, "KV7204B");
+    EXPECT_EQ(BandwidthClass, 4);
+    EXPECT_TRUE(FirmwareVersion.startsWith("00.03.03.01")) << FirmwareVersion.toStdString();
+    EXPECT_TRUE(MathDisplay == "ON" || MathDisplay == "OFF");
+    EXPECT_EQ(StripAtLineFeed(AskCmd("*IDN?")), SupportedIdentity);
+
+    DisconnectDevice();
+    EXPECT_FALSE(Connected);
+    EXPECT_TRUE(link->waitForLogged(KeyRelease, int(released) + 1));
+    DisconnectDevice();
+    QThread::msleep(200);
+    EXPECT_EQ(link->loggedCommands().count(KeyRelease), released + 1) << "not connected: nothing is sent";
+}
+
+INSTANTIATE_TEST_SUITE_P(Sim, TransportTable,
+                         ::testing::Values(LinkTransport::Socket, LinkTransport::Vxi11, LinkTransport::Hislip,
+                                           LinkTransport::Serial),
+                         [](const auto& info) { return transportName(info.param); });
+
+struct RefusalCase {
+    const char* name;
+    const char* identity;
+    bool connected;
+    const char* box;
+    bool stillConnecting;
+};
+
+class RefusalTable : public SimLinkTest, public ::testing::WithParamInterface<RefusalCase> {};
+
+TEST_P(RefusalTable, RefusesWhatIsNotSupported)
+{
+    const RefusalCase& c = GetParam();
+    SimLink link({"--idn", c.identity, "--socket-port", "0", "--hislip-port", "off", "--pty", "off"});
+    ASSERT_TRUE(link.started()) << link.errorString().toStdString();
+    link.aim(LinkTransport::Socket);
+
+    ConnectDevice();
+
+    EXPECT_EQ(Connected, c.connected);
+    EXPECT_EQ(Connecting, c.stillConnecting);
+    EXPECT_EQ(boxTexts(), *c.box ? QStringList{c.box} : QStringList{});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Identities, RefusalTable,
+    ::testing::Values(RefusalCase{"otherVendor", "Acme Instruments,KV7204B,1,00.03.05", false,
+                                  "Connect to Oscilloscope|Device not found!", false},
+                      RefusalCase{"modelLongerThanB", "Korva Technologies,KV7204BX,1,00.03.05", false,
+                                  "Connect to Oscilloscope|Device not found!", false},
+                      RefusalCase{"oldFirmware", "Korva Technologies,KV7204B,1,00.03.02.00.00", false,
+                                  "|Low firmware,please update it.", true},
+                      RefusalCase{"servicePackPasses", "Korva Technologies,KV7204B,1,00.03.03.SP1", true, "",
+                                  false}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+} // namespace

@@ -1,0 +1,67 @@
+#pragma once
+// A resource manager for the link's unit tests: a scripted list of resources,
+// an instrument that answers known queries, and a record of every call.
+
+#include "link/visalibrary.h"
+#include "platform/testplatform.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+class FakeVisa : public VisaLibrary {
+  public:
+    static constexpr ViSession Manager = 11;
+    static constexpr ViSession Session = 22;
+    static constexpr ViFindList FindList = 33;
+
+    std::vector<std::string> resources;         // what the find lists
+    std::map<std::string, std::string> replies; // query line (with its line feed) -> reply bytes
+    std::string pending;                        // bytes waiting to be read
+    std::vector<ViStatus> readStatuses;         // forced statuses of the next reads, first first
+    ViStatus openStatus = VI_SUCCESS;
+    ViStatus writeStatus = VI_SUCCESS;
+
+    std::vector<std::string> calls;  // "findRsrc", "findNext", "open NAME", "clear 22", "close 22", ...
+    std::vector<std::string> writes; // the bytes of every write
+    std::map<ViAttr, ViAttrState> attributes;
+
+    ViStatus openDefaultRM(ViSession* manager) override;
+    ViStatus findRsrc(ViSession manager, const char* expression, ViFindList* list, ViUInt32* count,
+                      char description[VI_FIND_BUFLEN]) override;
+    ViStatus findNext(ViFindList list, char description[VI_FIND_BUFLEN]) override;
+    ViStatus open(ViSession manager, const char* name, ViAccessMode mode, ViUInt32 timeout,
+                  ViSession* session) override;
+    ViStatus close(ViObject object) override;
+    ViStatus read(ViSession session, ViByte* buffer, ViUInt32 size, ViUInt32* count) override;
+    ViStatus write(ViSession session, const ViByte* buffer, ViUInt32 size, ViUInt32* count) override;
+    ViStatus clear(ViSession session) override;
+    ViStatus setAttribute(ViObject object, ViAttr attribute, ViAttrState value) override;
+    ViStatus getAttribute(ViObject object, ViAttr attribute, void* value) override;
+
+    int countOf(const std::string& call) const;
+
+  private:
+    size_t nextFound_ = 1;
+};
+
+// Every link test starts from a fresh program state, a recording platform and
+// the fake in place of the VISA library; the link's hooks are put back after.
+class LinkTest : public ::testing::Test {
+  protected:
+    LinkTest();
+    ~LinkTest() override;
+
+    // The link as ConnectDevice leaves it over VISA.
+    void connectOverVisa();
+    QStringList boxTexts() const;
+
+    ScopedTestPlatform platform;
+    FakeVisa* visa = nullptr;
+
+  private:
+    std::unique_ptr<VisaLibrary> previous_;
+};
