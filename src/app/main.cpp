@@ -1,19 +1,22 @@
+#include "frame/frmMain.h"
+#include "frame/frmStartup.h"
+#include "frame/productinfo.h"
 #include "platform/widgetsplatform.h"
 
 #include <QApplication>
-#include <QMainWindow>
+#include <QElapsedTimer>
+#include <memory>
 
 int main(int argc, char** argv)
 {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
     QApplication app(argc, argv);
-    QApplication::setApplicationName("Selvane");
-    QApplication::setOrganizationName("Selvane");
+    QApplication::setApplicationName(ProgramTitle);
+    QApplication::setOrganizationName(ProgramTitle);
     installPlatform(std::make_unique<WidgetsPlatform>());
 
-    QMainWindow window;
-    window.setObjectName("frmMain");
-    window.setWindowTitle("Selvane");
-    window.resize(900, 650);
-    window.show();
-    return app.exec();
+    std::unique_ptr<frmMain> window(Main());
+    InstallStartupProbe(window.get(), ParseStartupProbe(QApplication::arguments()), sinceStart);
+    return QApplication::exec();
 }

@@ -1,0 +1,10 @@
+#include "controller/ctrlstate.h"
+
+QString CtrlFileName;
+bool CtrlDirty = false;
+
+void ResetCtrlState()
+{
+    CtrlFileName.clear();
+    CtrlDirty = false;
+}

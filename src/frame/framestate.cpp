@@ -1,0 +1,10 @@
+#include "frame/framestate.h"
+
+#include "frame/commstatus.h"
+#include "frame/softwaresettings.h"
+
+void ResetFrameState()
+{
+    ResetSoftwareSettings();
+    ResetCommStatus();
+}

@@ -1,0 +1,56 @@
+#include "frame/frmAbout.h"
+
+#include "frame/productinfo.h"
+#include "platform/platform.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+
+namespace {
+
+QLabel* makeLabel(QWidget* parent, const char* name, const QString& text)
+{
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(QString::fromLatin1(name));
+    return label;
+}
+
+} // namespace
+
+frmAbout::frmAbout(QWidget* parent) : QDialog(parent)
+{
+    setObjectName("frmAbout");
+    setWindowTitle(QStringLiteral("About ") + ProgramTitle);
+    picIcon = makeLabel(this, "picIcon", QString());
+    picIcon->setPixmap(style()->standardIcon(QStyle::SP_ComputerIcon).pixmap(48, 48));
+    picIcon->installEventFilter(this);
+    lblTitle = makeLabel(this, "lblTitle", ProgramTitle + QStringLiteral(" for ") + ProductModel);
+    lblVersion = makeLabel(this, "lblVersion", QStringLiteral("Version ") + ProgramVersion);
+    lblDescription = makeLabel(this, "lblDescription",
+                               QStringLiteral("Remote control, waveform and measurement companion of the ") +
+                                   ProductModel + QStringLiteral(" oscilloscopes.\n") + CompanyName);
+    cmdOK = new QPushButton(QStringLiteral("OK"), this);
+    cmdOK->setObjectName("cmdOK");
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(picIcon, 0, 0, 3, 1, Qt::AlignTop);
+    layout->addWidget(lblTitle, 0, 1);
+    layout->addWidget(lblVersion, 1, 1);
+    layout->addWidget(lblDescription, 2, 1);
+    layout->addWidget(cmdOK, 3, 1, Qt::AlignRight);
+}
+
+void frmAbout::picIcon_Click()
+{
+    MsgBox(ProgramVersion, vbOKOnly, QStringLiteral("Version"));
+}
+
+bool frmAbout::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == picIcon && event->type() == QEvent::MouseButtonRelease) picIcon_Click();
+    return QDialog::eventFilter(watched, event);
+}

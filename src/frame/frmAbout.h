@@ -1,0 +1,25 @@
+#pragma once
+// The about box: fixed product texts; a click on the icon tells the version.
+
+#include <QDialog>
+
+class QLabel;
+class QPushButton;
+
+class frmAbout : public QDialog {
+    Q_OBJECT
+  public:
+    explicit frmAbout(QWidget* parent = nullptr);
+
+    void picIcon_Click();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    QLabel* picIcon;
+    QLabel* lblTitle;
+    QLabel* lblVersion;
+    QLabel* lblDescription;
+    QPushButton* cmdOK;
+};

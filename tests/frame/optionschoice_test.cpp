@@ -1,0 +1,76 @@
+#include "frame/optionschoice.h"
+#include "frame/softwaresettings.h"
+#include "link/linkstate.h"
+#include "platform/programstate.h"
+#include "platform/testplatform.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class OptionsChoiceTest : public ::testing::Test {
+  protected:
+    void SetUp() override { ResetProgramState(); }
+    void TearDown() override { ResetProgramState(); }
+    ScopedTestPlatform test;
+};
+
+TEST_F(OptionsChoiceTest, TheChoiceLandsInTheSettings)
+{
+    OptionsChoice choice{true, true, false, true, "5", true, "COM3", " 19200 ", "12", "USB0::1::2::S::INSTR"};
+    ApplyOptions(choice);
+    EXPECT_TRUE(StartupCheckHardware);
+    EXPECT_TRUE(StartupLoadSheet);
+    EXPECT_FALSE(StartupLoadCtrl);
+    EXPECT_EQ(RefreshType, "Auto");
+    EXPECT_EQ(RefreshInterval, 5000);
+    EXPECT_EQ(TransportType, 2);
+    EXPECT_EQ(ComPort, 3);
+    EXPECT_EQ(BaudRate, "19200");
+    EXPECT_EQ(GpibAddress, 12);
+    EXPECT_TRUE(ResourceChosen);
+    EXPECT_EQ(ResourceName, "USB0::1::2::S::INSTR");
+}
+
+TEST_F(OptionsChoiceTest, NoDeviceForgetsTheChosenResource)
+{
+    ResourceChosen = true;
+    ResourceName = "USB0::1::2::S::INSTR";
+    ApplyOptions(OptionsChoice{});
+    EXPECT_FALSE(ResourceChosen);
+    EXPECT_EQ(ResourceName, "");
+    EXPECT_EQ(TransportType, 0);
+    EXPECT_EQ(RefreshType, "Single");
+}
+
+TEST_F(OptionsChoiceTest, WithoutALinkNothingIsSent)
+{
+    BaudRate = "9600";
+    OptionsChoice choice;
+    choice.baudText = "38400";
+    ApplyOptions(choice);
+    EXPECT_TRUE(test->sleeps.isEmpty()) << "a command would have cost its 100 ms";
+    EXPECT_EQ(BaudRate, "38400");
+}
+
+struct TextCase {
+    const char* text;
+    int port;
+};
+
+TEST(PortNumber, ReadsTheDigitsOfThePortText)
+{
+    for (const TextCase& c : {TextCase{"COM1", 1}, TextCase{"COM12", 12}, TextCase{"com7 ", 7},
+                              TextCase{"COM", 0}, TextCase{"", 0}, TextCase{"COM99999999999", 999999999}})
+        EXPECT_EQ(PortNumber(c.text), c.port) << c.text;
+}
+
+TEST(ShortResourceText, DropsTheInterfaceAndTheSuffix)
+{
+    EXPECT_EQ(ShortResourceText("USB0::0x1234::0x5678::SN1::INSTR"), "0x1234 0x5678 SN1");
+    EXPECT_EQ(ShortResourceText("USB::0x1::0x2::X::0::instr"), "0x1 0x2 X 0");
+    EXPECT_EQ(ShortResourceText("ODD"), "ODD");
+    EXPECT_EQ(ShortResourceText(""), "");
+}
+
+} // namespace

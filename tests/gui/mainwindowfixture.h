@@ -1,0 +1,55 @@
+#pragma once
+// A loaded main window on the recording platform, with a scripted instrument
+// (no resources unless a test lists some) in place of the VISA library.
+
+#include "fakeinstrument.h"
+#include "frame/frmMain.h"
+#include "platform/programstate.h"
+#include "platform/testplatform.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QThread>
+#include <gtest/gtest.h>
+#include <memory>
+
+class MainWindowTest : public ::testing::Test {
+  protected:
+    void SetUp() override { ResetProgramState(); }
+    void TearDown() override
+    {
+        window.reset();
+        ResetProgramState();
+    }
+
+    // Creates, loads and shows the window, and lets the one-shot start timer run.
+    frmMain& load()
+    {
+        window = std::make_unique<frmMain>();
+        window->Form_Load();
+        window->show();
+        QElapsedTimer waited;
+        waited.start();
+        while (!pane("DataSheet")->isVisible() && waited.elapsed() < 5000) {
+            QCoreApplication::processEvents();
+            QThread::msleep(1);
+        }
+        return *window;
+    }
+
+    template <typename T = QAction> T* find(const char* name) const
+    {
+        T* found = window->findChild<T*>(QString::fromLatin1(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    QWidget* pane(const char* key) const;
+    // The settings written so far, all sections of the frame.
+    int storedSettingCount() const;
+
+    ScopedTestPlatform test;
+    ScopedFakeInstrument instrument;
+    std::unique_ptr<frmMain> window;
+};
