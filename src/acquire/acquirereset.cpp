@@ -1,5 +1,6 @@
 #include "acquire/acquirereset.h"
 
+#include "acquire/operation.h"
 #include "acquire/tabletext.h"
 #include "acquire/wavebytes.h"
 #include "acquire/waverecord.h"
@@ -9,4 +10,5 @@ void ResetAcquireState()
     ResetWaveRecords();
     ResetWaveBytes();
     ResetTableTexts();
+    ResetOperationState();
 }

@@ -1,0 +1,146 @@
+#include "acquire/operation.h"
+
+#include "acquire/readblocks.h"
+#include "acquire/readdatatable.h"
+#include "acquire/readwavewindow.h"
+#include "acquire/waverecord.h"
+#include "link/linkstate.h"
+#include "platform/platform.h"
+
+#include <algorithm>
+#include <map>
+
+int OperationCode = 0;
+bool OperationRunning = false;
+bool OperationDone = false;
+int16_t ProgressStep = 0;
+double ProgressBase = 0;
+int16_t ProgressPercent = 0;
+std::function<void()> ProgressPercentChanged;
+std::function<void(int slot)> WaveReadingEnded;
+
+namespace {
+
+constexpr double BarStart = 5;
+constexpr double BarMaximum = 100;
+
+// The bar of a frame with no window.
+class HeadlessProgress : public ProgressView {
+  public:
+    void setTimer2Enabled(bool) override {}
+    void setBarValue(double value) override { value_ = value; }
+    double barValue() const override { return value_; }
+    double barMaximum() const override { return BarMaximum; }
+    void refresh() override {}
+
+  private:
+    double value_ = 0;
+};
+
+HeadlessProgress headless;
+ProgressView* installed = nullptr;
+
+std::map<int, OperationRoutine>& routines()
+{
+    static std::map<int, OperationRoutine> table;
+    return table;
+}
+
+const QString tableSources[] = {QStringLiteral("CH1"), QStringLiteral("CH2"), QStringLiteral("CH3"),
+                                QStringLiteral("CH4"), QStringLiteral("LA")};
+
+bool runDefault(int code)
+{
+    if (code == OperationWaveWindow) return ReadWaveWindow();
+    if (code >= OperationTableCH1 && code <= OperationTableLa)
+        return ReadDataTable(tableSources[code - OperationTableCH1]);
+    return false;
+}
+
+} // namespace
+
+ProgressView& Progress()
+{
+    return installed ? *installed : headless;
+}
+
+void SetProgressView(ProgressView* view)
+{
+    installed = view;
+}
+
+void ProgressTimerTick()
+{
+    ProgressView& bar = Progress();
+    bar.setBarValue(std::min(bar.barValue() + ProgressStep, bar.barMaximum()));
+    if (OperationCode != OperationWaveWindow || !OperationRunning) return;
+    int percent = ProgressPercent + ProgressStep;
+    if (percent > ProgressBase) percent = int(ProgressBase);
+    ProgressPercent = int16_t(std::min(percent, 100));
+    if (ProgressPercentChanged) ProgressPercentChanged();
+}
+
+void SetOperationRoutine(int code, OperationRoutine routine)
+{
+    if (routine)
+        routines()[code] = std::move(routine);
+    else
+        routines().erase(code);
+}
+
+bool RunOperation(int code)
+{
+    const auto found = routines().find(code);
+    if (found != routines().end()) return found->second();
+    return runDefault(code);
+}
+
+void BeginReadingFrame()
+{
+    LinkBusy = true;
+    ProgressBase = 0;
+    Progress().setTimer2Enabled(false);
+    Progress().setBarValue(BarStart);
+    OperationRunning = true;
+}
+
+void RunReadingTick()
+{
+    AskRunState();
+    const bool finished = RunOperation(OperationCode);
+    if (finished && OperationCode == OperationWaveWindow && WaveReadingEnded)
+        WaveReadingEnded(CurrentWaveIndex);
+}
+
+void EndReadingFrame()
+{
+    Progress().setTimer2Enabled(false);
+    LinkBusy = false;
+    OperationDone = true;
+    OperationRunning = false;
+}
+
+void RunReadingFrame(int code)
+{
+    OperationCode = code;
+    OperationDone = false;
+    BeginReadingFrame();
+    RunReadingTick();
+    Progress().refresh();
+    Sleep(ReadingEndPauseMs);
+    EndReadingFrame();
+}
+
+void ResetOperationState()
+{
+    OperationCode = 0;
+    OperationRunning = false;
+    OperationDone = false;
+    ProgressStep = 0;
+    ProgressBase = 0;
+    ProgressPercent = 0;
+    installed = nullptr;
+    headless.setBarValue(0);
+    WaveParameterBlock = WaveParameter{};
+    TriggerStatusText.clear();
+}

@@ -1,0 +1,65 @@
+#include "cli/clilink.h"
+
+#include "frame/language.h"
+#include "frame/messages.h"
+#include "link/connection.h"
+#include "link/linkstate.h"
+#include "link/usbtransport.h"
+#include "visa/visaconfig.h"
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace {
+
+void presetTransport(const LinkOptions& options)
+{
+    if (!options.serial.isEmpty()) {
+        TransportType = TransportRs232;
+        SerialDevice = options.serial;
+        BaudRate = options.baud;
+        return;
+    }
+    std::vector<std::string> listed;
+    for (const QString& name : options.resources)
+        listed.push_back(name.toStdString());
+    selvaneVisaSetConfiguredResources(listed);
+    TransportType = TransportVisa;
+    ResourceName = options.resources.first();
+    ResourceChosen = true;
+}
+
+} // namespace
+
+void AddLinkOptions(QCommandLineParser& parser)
+{
+    parser.addOption(
+        {"resource", "VISA resource to open; repeated: the first is opened, all are listed.", "name"});
+    parser.addOption({"serial", "Serial device to open instead (a tty or pseudo-terminal).", "path"});
+    parser.addOption({"baud", "Baud rate of the serial device.", "rate", "9600"});
+}
+
+bool TakeLinkOptions(const QCommandLineParser& parser, const QString& command, LinkOptions& options)
+{
+    options = {parser.values("resource"), parser.value("serial"), parser.value("baud")};
+    if (options.resources.isEmpty() != options.serial.isEmpty()) return true;
+    std::fprintf(stderr, "%s: give either --resource or --serial\n", qPrintable(command));
+    return false;
+}
+
+bool OpenLink(const LinkOptions& options)
+{
+    LoadLanguageSetting();
+    LoadMessages();
+    presetTransport(options);
+    OpenVisaRM();
+    ConnectDevice();
+    return Connected;
+}
+
+void CloseLink()
+{
+    DisconnectDevice();
+    CloseVisaRM();
+}

@@ -1,0 +1,13 @@
+#pragma once
+// The subcommands of selvane-cli. Each takes the command line without the
+// subcommand's name (the program name stays first) and returns the exit status.
+
+#include <QStringList>
+
+// Connects with the program's own routines and prints the instrument's identity.
+int RunIdnCommand(const QStringList& arguments);
+
+// Reads one wave window snapshot and writes its picture (--out FILE.png|.bmp).
+int RunWaveCommand(const QStringList& arguments);
+// Reads one channel as a data table and writes its export text (--out FILE.txt).
+int RunTableCommand(const QStringList& arguments);

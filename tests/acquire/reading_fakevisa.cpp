@@ -1,0 +1,102 @@
+#include "reading_fakevisa.h"
+
+#include "link/linkstate.h"
+#include "platform/programstate.h"
+
+#include <algorithm>
+#include <cstring>
+
+ViStatus ReadingVisa::openDefaultRM(ViSession* manager)
+{
+    *manager = 1;
+    return VI_SUCCESS;
+}
+
+ViStatus ReadingVisa::findRsrc(ViSession, const char*, ViFindList*, ViUInt32* count, char*)
+{
+    *count = 0;
+    return VI_ERROR_RSRC_NFOUND;
+}
+
+ViStatus ReadingVisa::read(ViSession, ViByte* buffer, ViUInt32 size, ViUInt32* count)
+{
+    const size_t taken = std::min<size_t>(size, pending.size());
+    std::memcpy(buffer, pending.data(), taken);
+    pending.erase(0, taken);
+    *count = ViUInt32(taken);
+    return taken == 0 ? VI_ERROR_TMO : VI_SUCCESS;
+}
+
+ViStatus ReadingVisa::write(ViSession, const ViByte* buffer, ViUInt32 size, ViUInt32* count)
+{
+    std::string line(reinterpret_cast<const char*>(buffer), size);
+    if (!line.empty() && line.back() == '\n') line.pop_back();
+    writes.push_back(line);
+    const auto found = replies.find(line);
+    if (found != replies.end()) pending = found->second;
+    *count = size;
+    return VI_SUCCESS;
+}
+
+namespace {
+
+void put16(std::string& bytes, size_t at, int16_t value)
+{
+    bytes[at] = char(value & 0xFF);
+    bytes[at + 1] = char((value >> 8) & 0xFF);
+}
+
+} // namespace
+
+std::string ParameterBlock(const WaveParameter& p)
+{
+    std::string bytes(WaveParameterSize, '\0');
+    put16(bytes, 0, p.s16ScrStartPos);
+    put16(bytes, 2, p.s16ScrEndPos);
+    put16(bytes, 4, p.s16ScrStartPosA);
+    put16(bytes, 6, p.s16ScrEndPosA);
+    put16(bytes, 8, p.s16ScrStartPosB);
+    put16(bytes, 10, p.s16ScrEndPosB);
+    bytes[12] = char(p.s8TimeRolling);
+    bytes[13] = char(p.s8CH1Enabled_Stop);
+    bytes[14] = char(p.s8CH2Enabled_Stop);
+    bytes[15] = char(p.s8CH3Enabled_Stop);
+    bytes[16] = char(p.s8CH4Enabled_Stop);
+    bytes[34] = char(p.s8FFTEnabled_Stop);
+    put16(bytes, 70, p.s16ChanPeakState);
+    return bytes;
+}
+
+std::string Block(const std::string& data)
+{
+    const std::string length = std::to_string(data.size());
+    return "#" + std::to_string(length.size()) + length + data + "\n";
+}
+
+ReadingTest::ReadingTest()
+{
+    ResetProgramState();
+    auto fake = std::make_unique<ReadingVisa>();
+    visa = fake.get();
+    previous_ = InstallVisaLibrary(std::move(fake));
+    Connected = true;
+    VisaSession = 2;
+    answer(":TRIGGER:STATUS?", "STOP\n");
+    answer(":MATH:DISPLAY?", "0\n");
+    answer(":TRIGGER:MODE?", "EDGE\n");
+    answer(":TIMEBASE:FORMAT?", "Y-T\n");
+    answer(":TIMEBASE:SCALE?", "5.000e-04\n");
+    answer(":TIMEBASE:OFFSET?", "0.000e+00\n");
+    answer(":ACQUIRE:SRATE? CHANNEL1", "1.000e+06\n");
+    for (const char* n : {"1", "2", "3", "4"}) {
+        answer(std::string(":CHANNEL") + n + ":SCALE?", "1.000e+00\n");
+        answer(std::string(":CHANNEL") + n + ":OFFSET?", "0.000e+00\n");
+        answer(std::string(":CHANNEL") + n + ":INVERT?", "0\n");
+    }
+}
+
+ReadingTest::~ReadingTest()
+{
+    InstallVisaLibrary(std::move(previous_));
+    ResetProgramState();
+}
