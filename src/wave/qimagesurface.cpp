@@ -38,6 +38,11 @@ QImageSurface::QImageSurface(QSize size)
     image_.fill(back_);
 }
 
+QImageSurface::QImageSurface(const QImage& picture)
+    : image_(picture.convertToFormat(QImage::Format_RGB32)), painter_(std::make_unique<QPainter>())
+{
+}
+
 QImageSurface::~QImageSurface() = default;
 
 QPainter& QImageSurface::painter()

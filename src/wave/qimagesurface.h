@@ -14,6 +14,8 @@
 class QImageSurface : public Surface {
   public:
     explicit QImageSurface(QSize size);
+    // Starts from an existing picture instead of a blank one (the cursor layer).
+    explicit QImageSurface(const QImage& picture);
     ~QImageSurface() override;
 
     void setBackColor(const QColor& color) override;
