@@ -1,0 +1,217 @@
+// frmDataSheetTree: the tree, its nodes and the child windows behind them.
+
+#include "sheet/frmDataSheetTree.h"
+
+#include "frame/captionwidgets.h"
+#include "frame/productinfo.h"
+#include "sheet/frmSheetWindows.h"
+#include "sheet/sheetslots.h"
+#include "sheet/sheetstate.h"
+
+#include <QEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int windowCaptionSlot = 0; // "Data Sheet"
+}
+
+frmDataSheetTree::frmDataSheetTree(QWidget* parent) : QWidget(parent)
+{
+    setObjectName("frmDataSheetTree");
+    DataSheetTree = new QTreeWidget(this);
+    DataSheetTree->setObjectName("DataSheetTree");
+    DataSheetTree->setHeaderHidden(true);
+    DataSheetTree->setContextMenuPolicy(Qt::CustomContextMenu);
+    DataSheetTree->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(DataSheetTree);
+    createMenu();
+    connect(DataSheetTree, &QTreeWidget::currentItemChanged, this, [this] { SetActiveForm(); });
+    connect(DataSheetTree, &QTreeWidget::itemClicked, this, [this] { SetActiveForm(); });
+    connect(DataSheetTree, &QTreeWidget::itemChanged, this, &frmDataSheetTree::ChangeFormName);
+    connect(DataSheetTree, &QTreeWidget::customContextMenuRequested, this, &frmDataSheetTree::showMenu);
+}
+
+// The windows may outlive the pane while the main window is torn down.
+frmDataSheetTree::~frmDataSheetTree()
+{
+    for (auto& kindChildren : children)
+        for (Child& child : kindChildren)
+            if (child.window) child.window->removeEventFilter(this);
+}
+
+void frmDataSheetTree::SetCaptions(int language)
+{
+    ApplyCaptions(this, CaptionList::SheetNames, {{"", windowCaptionSlot, CaptionRole::WindowTitle}},
+                  language);
+    setMenuCaptions(language);
+}
+
+void frmDataSheetTree::RefreshNodeTexts()
+{
+    const QSignalBlocker quiet(DataSheetTree);
+    if (root()) root()->setText(0, DataSheetName);
+    for (SheetKind kind : AllSheetKinds)
+        for (int slot = 0; slot < static_cast<int>(childrenOf(kind).size()); ++slot)
+            childrenOf(kind)[static_cast<size_t>(slot)].node->setText(0, SlotName(kind, slot));
+}
+
+void frmDataSheetTree::AddWindow(SheetKind kind)
+{
+    if (!MayAddWindow(kind)) return;
+    const int slot = ClaimSlot(kind);
+    Child child;
+    child.window = CreateSheetWindow(windowArea, kind, slot, SlotName(kind, slot));
+    if (child.window) child.window->installEventFilter(this);
+    {
+        const QSignalBlocker quiet(DataSheetTree);
+        child.node = new QTreeWidgetItem(root(), {SlotName(kind, slot)});
+        child.node->setFlags(child.node->flags() | Qt::ItemIsEditable);
+    }
+    childrenOf(kind).push_back(child);
+    root()->setExpanded(true);
+    sortIfFlagged();
+    DataSheetTree->setCurrentItem(child.node);
+}
+
+void frmDataSheetTree::SetActiveForm()
+{
+    Place place;
+    if (!placeOf(currentNode(), place)) return;
+    QMdiSubWindow* window = childWindow(place.kind, place.slot);
+    if (!window) return;
+    window->show();
+    window->raise();
+    if (windowArea) windowArea->setActiveSubWindow(window);
+}
+
+void frmDataSheetTree::ChangeFormName(QTreeWidgetItem* node)
+{
+    Place place;
+    if (!placeOf(node, place) || node->text(0) == SlotName(place.kind, place.slot)) return;
+    if (node->text(0).isEmpty()) {
+        const QSignalBlocker quiet(DataSheetTree);
+        node->setText(0, SlotName(place.kind, place.slot));
+        return;
+    }
+    RenameSlot(place.kind, place.slot, node->text(0));
+    SetWindowName(childWindow(place.kind, place.slot), node->text(0));
+    sortIfFlagged();
+}
+
+// The window goes first: one that refuses to close (a reading under way) keeps its node.
+void frmDataSheetTree::removeChild(SheetKind kind, int slot)
+{
+    std::vector<Child>& list = childrenOf(kind);
+    if (slot < 0 || slot >= static_cast<int>(list.size())) return;
+    const Child gone = list[static_cast<size_t>(slot)];
+    list.erase(list.begin() + slot);
+    if (gone.window && !gone.window->close()) {
+        list.insert(list.begin() + slot, gone);
+        return;
+    }
+    delete gone.node;
+    ReleaseSlot(kind, slot);
+    for (size_t later = static_cast<size_t>(slot); later < list.size(); ++later)
+        SetWindowTag(list[later].window, static_cast<int>(later));
+}
+
+bool frmDataSheetTree::CloseSheet()
+{
+    if (!QuerySheetClose([this] { mnuSaveDataSheet_Click(); })) return false;
+    closeAllChildren();
+    DataSheetTree->clear();
+    ClearSheet();
+    Q_EMIT mainTitleChanged(ProgramTitle);
+    return true;
+}
+
+void frmDataSheetTree::closeAllChildren()
+{
+    for (auto& kindChildren : children) {
+        std::vector<Child> closing;
+        closing.swap(kindChildren);
+        for (Child& child : closing)
+            if (child.window) child.window->close();
+    }
+}
+
+void frmDataSheetTree::showRoot()
+{
+    const QSignalBlocker quiet(DataSheetTree);
+    DataSheetTree->clear();
+    auto* node = new QTreeWidgetItem(DataSheetTree, {DataSheetName});
+    node->setExpanded(true);
+    DataSheetTree->setCurrentItem(node);
+    Q_EMIT mainTitleChanged(ProgramTitle + QStringLiteral(" - ") + DataSheetName);
+}
+
+void frmDataSheetTree::sortIfFlagged()
+{
+    if (SheetSorted && root()) root()->sortChildren(0, Qt::AscendingOrder);
+}
+
+// A child closed by its own frame is only hidden; selecting its node shows it again.
+bool frmDataSheetTree::eventFilter(QObject* watched, QEvent* event)
+{
+    Place place;
+    if (event->type() != QEvent::Close || !placeOf(watched, place))
+        return QWidget::eventFilter(watched, event);
+    event->ignore();
+    static_cast<QWidget*>(watched)->hide();
+    return true;
+}
+
+QMdiSubWindow* frmDataSheetTree::childWindow(SheetKind kind, int slot) const
+{
+    const std::vector<Child>& list = childrenOf(kind);
+    return slot >= 0 && slot < static_cast<int>(list.size()) ? list[static_cast<size_t>(slot)].window.data()
+                                                             : nullptr;
+}
+
+bool frmDataSheetTree::findPlace(const std::function<bool(const Child&)>& match, Place& place) const
+{
+    for (SheetKind kind : AllSheetKinds) {
+        const std::vector<Child>& list = childrenOf(kind);
+        for (size_t slot = 0; slot < list.size(); ++slot)
+            if (match(list[slot])) {
+                place = {kind, static_cast<int>(slot)};
+                return true;
+            }
+    }
+    return false;
+}
+
+bool frmDataSheetTree::placeOf(const QTreeWidgetItem* node, Place& place) const
+{
+    return node && findPlace([node](const Child& child) { return child.node == node; }, place);
+}
+
+bool frmDataSheetTree::placeOf(const QObject* window, Place& place) const
+{
+    return window && findPlace([window](const Child& child) { return child.window == window; }, place);
+}
+
+std::vector<frmDataSheetTree::Child>& frmDataSheetTree::childrenOf(SheetKind kind)
+{
+    return children[static_cast<size_t>(KindIndex(kind))];
+}
+
+const std::vector<frmDataSheetTree::Child>& frmDataSheetTree::childrenOf(SheetKind kind) const
+{
+    return children[static_cast<size_t>(KindIndex(kind))];
+}
+
+QTreeWidgetItem* frmDataSheetTree::root() const
+{
+    return DataSheetTree->topLevelItem(0);
+}
+
+QTreeWidgetItem* frmDataSheetTree::currentNode() const
+{
+    return DataSheetTree->currentItem();
+}

@@ -1,0 +1,121 @@
+#include "sheet/sheetslots.h"
+
+#include "frame/captions.h"
+#include "frame/messages.h"
+#include "platform/platform.h"
+#include "sheet/sheetstate.h"
+#include "sheet/slotrecords.h"
+
+namespace {
+
+constexpr int treeCaptionSlot = 0;
+constexpr int defaultNameSlot = 1;
+
+QStringList& namesOf(SheetKind kind)
+{
+    return SheetSlotNames[static_cast<size_t>(KindIndex(kind))];
+}
+
+bool validSlot(SheetKind kind, int slot)
+{
+    return slot >= 0 && slot < namesOf(kind).size();
+}
+
+} // namespace
+
+bool HasSheet()
+{
+    return SheetOpen;
+}
+
+int SheetCount(SheetKind kind)
+{
+    return static_cast<int>(namesOf(kind).size());
+}
+
+bool MayAddWindow(SheetKind kind)
+{
+    if (!HasSheet()) {
+        MsgBox(MsgSheetFirst, vbExclamation);
+        return false;
+    }
+    if (SheetCount(kind) >= KindWindowLimit(kind)) {
+        MsgBox(MsgFileLimit, vbExclamation);
+        return false;
+    }
+    return true;
+}
+
+int ClaimSlot(SheetKind kind, int language)
+{
+    const int slot = SheetCount(kind);
+    DataSheetDirty = true;
+    ClearSlotRecord(kind, slot);
+    const QString name = KindLabel(kind, language) + QString::number(slot);
+    namesOf(kind).append(name);
+    NameSlotRecord(kind, slot, name);
+    return slot;
+}
+
+void ReleaseSlot(SheetKind kind, int slot)
+{
+    if (!validSlot(kind, slot)) return;
+    namesOf(kind).removeAt(slot);
+    ShiftSlotRecords(kind, slot);
+    DataSheetDirty = true;
+}
+
+QString SlotName(SheetKind kind, int slot)
+{
+    return validSlot(kind, slot) ? namesOf(kind).at(slot) : QString();
+}
+
+void RenameSlot(SheetKind kind, int slot, const QString& name)
+{
+    if (!validSlot(kind, slot)) return;
+    namesOf(kind)[slot] = name;
+    NameSlotRecord(kind, slot, name);
+    DataSheetDirty = true;
+}
+
+QString DefaultSheetName(int language)
+{
+    return Caption(CaptionList::SheetNames, defaultNameSlot, language);
+}
+
+QString SheetTreeCaption(int language)
+{
+    return Caption(CaptionList::SheetNames, treeCaptionSlot, language);
+}
+
+void OpenNewSheet(int language)
+{
+    ClearSheet();
+    DataSheetName = DefaultSheetName(language);
+    SheetFileName.clear();
+    SheetOpen = true;
+}
+
+bool QuerySheetClose(const std::function<void()>& save)
+{
+    if (!DataSheetDirty) return true;
+    const int answer = MsgBox(MsgSaveSheet + SheetFileName, vbYesNoCancel);
+    if (answer == vbYes && save) save();
+    return answer != vbCancel;
+}
+
+void ClearSheet()
+{
+    for (QStringList& names : SheetSlotNames)
+        names.clear();
+    DataSheetDirty = false;
+    SheetSorted = false;
+    SheetOpen = false;
+}
+
+void TellSheetFilesUnavailable()
+{
+    MsgBox(IsChinese(Language) ? QStringLiteral("本版本尚不能保存或打开数据浏览器文件。")
+                               : QStringLiteral("Data sheet files can't be saved or opened in this version."),
+           vbInformation);
+}

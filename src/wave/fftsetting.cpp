@@ -1,0 +1,73 @@
+#include "wave/fftsetting.h"
+
+#include "acquire/waverecord.h"
+#include "frame/captions.h"
+
+#include <QRandomGenerator>
+
+std::array<FftPlaceholder, 18> FftPlaceholders;
+
+namespace {
+
+const QString channel1 = QStringLiteral("CH1");
+const QString channel2 = QStringLiteral("CH2");
+constexpr int VrmsMeasure = 5;
+
+} // namespace
+
+const QStringList& FftWindowNames()
+{
+    static const QStringList names{"Rectangle", "Hanning", "Hamming", "Blackman"};
+    return names;
+}
+
+QStringList FftScaleNames(int language)
+{
+    return {Caption(CaptionList::MeasureNames, VrmsMeasure, language), QStringLiteral("dBVrms")};
+}
+
+QStringList FftTargetTitles()
+{
+    QStringList titles;
+    for (const WaveRecord& record : WaveRecords)
+        if (!record.WaveTitle.isEmpty()) titles.append(record.WaveTitle);
+    if (titles.isEmpty()) titles.append(NoTargetText);
+    return titles;
+}
+
+FftTarget ChooseFftTarget(const QString& title)
+{
+    FftTarget target;
+    if (title == NoTargetText || title.isEmpty()) return target;
+    for (int slot = 0; slot < WaveRecordCount; ++slot) {
+        const WaveRecord& record = WaveRecords[slot];
+        if (record.WaveTitle != title) continue;
+        target.slot = slot;
+        target.okEnabled = record.HasData;
+        if (!record.HasData) return target;
+        switch (record.LastChannel) {
+        case 1: target.sources = QStringList{channel1}; break;
+        case 2: target.sources = QStringList{channel2}; break;
+        case 3: target.sources = QStringList{channel1, channel2}; break;
+        case 4: target.sourceEnabled = false; break;
+        default: break;
+        }
+        return target;
+    }
+    return target;
+}
+
+void StoreFftPlaceholder(int slot, const QString& windowText, bool fullScreen)
+{
+    if (slot < 0 || slot >= WaveRecordCount) return;
+    WaveArray spectrum(FftPlaceholderCount);
+    for (int32_t& value : spectrum)
+        value = int32_t(QRandomGenerator::global()->bounded(255));
+    WaveRecords[slot].WaveFFT = std::move(spectrum);
+    FftPlaceholders[slot] = {true, windowText, FftPlaceholderCount, fullScreen};
+}
+
+void ResetFftPlaceholders()
+{
+    FftPlaceholders.fill({});
+}

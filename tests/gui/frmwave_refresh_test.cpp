@@ -1,0 +1,161 @@
+// Refresh of a wave window against the simulator: one reading, readings at an
+// interval that stop on the next press and never overlap, and the refusals.
+#include "frmwave_fixture.h"
+
+#include "acquire/operation.h"
+#include "acquire/readwavewindow.h"
+#include "acquire/waverecord.h"
+#include "frame/softwaresettings.h"
+#include "link/linkstate.h"
+#include "sheet/sheetstate.h"
+#include "wave/waverefresh.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+
+namespace {
+
+int countColor(const QImage& image, QRgb color)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixel(x, y) == color ? 1 : 0;
+    return count;
+}
+
+// Counts the readings of operation 10 and the most that ran at once.
+struct ReadingCounter {
+    int started = 0;
+    int running = 0;
+    int mostAtOnce = 0;
+
+    ReadingCounter()
+    {
+        SetOperationRoutine(OperationWaveWindow, [this] {
+            ++started;
+            mostAtOnce = std::max(mostAtOnce, ++running);
+            const bool done = ReadWaveWindow();
+            --running;
+            return done;
+        });
+    }
+    ~ReadingCounter() { SetOperationRoutine(OperationWaveWindow, {}); }
+};
+
+} // namespace
+
+TEST_F(SimWaveWindowTest, SingleRefreshReadsThePictureAndMarksTheSheet)
+{
+    frmWave& wave = open();
+    WaveRecords[0].ColorMode = true;
+    WaveRecords[0].ShowCH1 = true;
+    const QImage before = wave.picture();
+
+    control<QPushButton>("cmdRefresh")->click();
+
+    EXPECT_TRUE(WaveRecords[0].HasData);
+    EXPECT_TRUE(DataSheetDirty);
+    EXPECT_FALSE(OperationRunning);
+    EXPECT_TRUE(control<QPushButton>("cmdRefresh")->isEnabled());
+    EXPECT_EQ(countColor(before, qRgb(255, 255, 0)), 0);
+    EXPECT_GT(countColor(wave.picture(), qRgb(255, 255, 0)), 100) << "CH1's trace and marker are drawn";
+    EXPECT_FALSE(control<QWidget>("picRefreshProgress")->isVisible());
+    EXPECT_TRUE(platform->boxes.isEmpty()) << boxTexts().join("; ").toStdString();
+}
+
+TEST_F(SimWaveWindowTest, IntervalRefreshReadsUntilTheNextPressWithoutOverlap)
+{
+    frmWave& wave = open();
+    WaveRecords[0].ShowCH2 = true;
+    RefreshType = RefreshAuto;
+    RefreshInterval = 30;
+    ReadingCounter readings;
+    auto* refresh = control<QPushButton>("cmdRefresh");
+    int startedAtStop = 0;
+    platform->onDoEvents = [&] {
+        if (readings.started >= 3 && startedAtStop == 0) {
+            startedAtStop = readings.started;
+            refresh->click();
+        }
+    };
+
+    refresh->click();
+
+    EXPECT_EQ(startedAtStop, 3);
+    EXPECT_EQ(readings.started, startedAtStop) << "no reading starts after the stop";
+    EXPECT_EQ(readings.mostAtOnce, 1);
+    EXPECT_FALSE(AutoRefreshRunning);
+    EXPECT_FALSE(WaveRecords[0].AutoRefreshing);
+    EXPECT_TRUE(refresh->isEnabled());
+    EXPECT_TRUE(WaveRecords[0].HasData);
+    EXPECT_FALSE(wave.picture().isNull());
+}
+
+TEST_F(SimWaveWindowTest, AWindowWithNoWantedChannelReadsNothing)
+{
+    open();
+    ReadingCounter readings;
+    control<QPushButton>("cmdRefresh")->click();
+    EXPECT_EQ(readings.started, 0);
+    EXPECT_FALSE(WaveRecords[0].HasData);
+    EXPECT_FALSE(DataSheetDirty);
+}
+
+TEST_F(WaveWindowTest, RefreshWithoutALinkAsksForOne)
+{
+    open();
+    WaveRecords[0].ShowCH1 = true;
+    control<QPushButton>("cmdRefresh")->click();
+    ASSERT_EQ(platform->boxes.size(), 1);
+    EXPECT_EQ(platform->boxes[0].text, "Please Connect Oscilloscope First!");
+    EXPECT_EQ(platform->boxes[0].style, vbExclamation);
+    EXPECT_FALSE(WaveRecords[0].HasData);
+}
+
+TEST_F(WaveWindowTest, RefreshWhileConnectingDoesNothing)
+{
+    open();
+    WaveRecords[0].ShowCH1 = true;
+    Connecting = true;
+    control<QPushButton>("cmdRefresh")->click();
+    EXPECT_TRUE(platform->boxes.isEmpty());
+    EXPECT_EQ(RefreshingWaveSlot, 0);
+}
+
+struct KeyCase {
+    const char* name;
+    Qt::KeyboardModifiers modifiers;
+    int boxes;
+};
+
+class RefreshKey : public WaveWindowTest, public ::testing::WithParamInterface<KeyCase> {};
+
+TEST_P(RefreshKey, F5RefreshesOnlyWithoutCtrlOrShift)
+{
+    frmWave& wave = open();
+    WaveRecords[0].ShowCH1 = true;
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F5, GetParam().modifiers);
+    QCoreApplication::sendEvent(&wave, &press);
+    EXPECT_EQ(platform->boxes.size(), GetParam().boxes) << "without a link a refresh asks for one";
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, RefreshKey,
+                         ::testing::Values(KeyCase{"Plain", Qt::NoModifier, 1},
+                                           KeyCase{"Ctrl", Qt::ControlModifier, 0},
+                                           KeyCase{"Shift", Qt::ShiftModifier, 0},
+                                           KeyCase{"CtrlShift", Qt::ControlModifier | Qt::ShiftModifier, 0}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(WaveWindowTest, HeldOffRefreshDoesNothing)
+{
+    open();
+    WaveRecords[0].ShowCH1 = true;
+    RefreshHeldOff = [] { return true; };
+    control<QPushButton>("cmdRefresh")->click();
+    RefreshHeldOff = nullptr;
+    EXPECT_TRUE(platform->boxes.isEmpty());
+    EXPECT_EQ(RefreshingWaveSlot, -1);
+}

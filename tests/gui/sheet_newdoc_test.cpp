@@ -1,0 +1,86 @@
+#include "mainwindowfixture.h"
+
+#include "frame/language.h"
+#include "sheet/frmDataSheetTree.h"
+#include "sheet/frmNewDoc.h"
+#include "sheet/sheetstate.h"
+
+#include <QApplication>
+#include <QMdiArea>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <QTreeWidget>
+
+namespace {
+
+class NewDocTest : public MainWindowTest {
+  protected:
+    void SetUp() override
+    {
+        MainWindowTest::SetUp();
+        load();
+        test->clearRecords();
+    }
+
+    // Answers the next modal new document dialog with an option and a button.
+    void answerDialog(int option, const char* button)
+    {
+        QTimer::singleShot(0, [option, button] {
+            auto* dialog = qobject_cast<frmNewDoc*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            if (option >= 0)
+                dialog->findChild<QRadioButton*>(QStringLiteral("NewOption_%1").arg(option))
+                    ->setChecked(true);
+            dialog->findChild<QPushButton*>(QString::fromLatin1(button))->click();
+        });
+    }
+    QTreeWidget* tree() const { return window->dataSheetTree()->tree(); }
+};
+
+TEST_F(NewDocTest, TheFirstOptionMakesADataSheetAndTheThirdAWaveWindow)
+{
+    answerDialog(0, "cmdOK");
+    find("mnuFileNew")->trigger();
+    EXPECT_EQ(DocChoice, NewDocDataSheet);
+    ASSERT_EQ(tree()->topLevelItemCount(), 1);
+    EXPECT_EQ(tree()->topLevelItem(0)->text(0), "Untitle");
+    answerDialog(2, "cmdOK");
+    find("mnuFileNew")->trigger();
+    EXPECT_EQ(DocChoice, NewDocWave);
+    EXPECT_EQ(tree()->topLevelItem(0)->child(0)->text(0), "Wave0");
+    EXPECT_EQ(window->mdiArea()->subWindowList().size(), 1);
+}
+
+TEST_F(NewDocTest, CancelRunsNothingAndKeepsTheLastChoice)
+{
+    DocChoice = NewDocMeasure;
+    answerDialog(0, "cmdCancel");
+    find("mnuFileNew")->trigger();
+    EXPECT_FALSE(DocChosen);
+    EXPECT_EQ(DocChoice, NewDocMeasure);
+    EXPECT_EQ(tree()->topLevelItemCount(), 0);
+    EXPECT_TRUE(test->boxes.isEmpty());
+}
+
+TEST_F(NewDocTest, ANewSheetOverAChangedOneAsksFirst)
+{
+    RunNewDocumentChoice(window->dataSheetTree(), NewDocDataSheet);
+    RunNewDocumentChoice(window->dataSheetTree(), NewDocRecord);
+    test->boxAnswers = {vbCancel};
+    RunNewDocumentChoice(window->dataSheetTree(), NewDocDataSheet);
+    ASSERT_EQ(test->boxes.size(), 1);
+    EXPECT_EQ(test->boxes[0].text, "Save the changes to the Data Sheet File? ");
+    EXPECT_EQ(tree()->topLevelItem(0)->childCount(), 1) << "Cancel keeps the sheet";
+}
+
+TEST_F(NewDocTest, TheDialogSpeaksChinese)
+{
+    Language = LanguageChinese;
+    frmNewDoc dialog;
+    EXPECT_EQ(dialog.windowTitle(), u"新建文档");
+    EXPECT_EQ(dialog.findChild<QRadioButton*>("NewOption_6")->text(), u"波形文件窗口");
+    EXPECT_EQ(dialog.findChild<QPushButton*>("cmdCancel")->text(), u"取消");
+}
+
+} // namespace

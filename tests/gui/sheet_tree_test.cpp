@@ -1,0 +1,188 @@
+#include "mainwindowfixture.h"
+
+#include "acquire/waverecord.h"
+#include "link/linkstate.h"
+#include "sheet/frmDataSheetTree.h"
+#include "sheet/frmSheetWindows.h"
+#include "sheet/sheetstate.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTreeWidget>
+
+namespace {
+
+class SheetTreeTest : public MainWindowTest {
+  protected:
+    void SetUp() override
+    {
+        MainWindowTest::SetUp();
+        load();
+        sheet = window->dataSheetTree();
+        tree = sheet->tree();
+        test->clearRecords();
+    }
+
+    void addWaves(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            find("AddNewWaveform")->trigger();
+    }
+    QTreeWidgetItem* root() const { return tree->topLevelItem(0); }
+    QStringList nodeTexts() const
+    {
+        QStringList texts;
+        for (int i = 0; root() && i < root()->childCount(); ++i)
+            texts << root()->child(i)->text(0);
+        return texts;
+    }
+    QStringList windowTags() const
+    {
+        QStringList tags;
+        for (QMdiSubWindow* child : window->mdiArea()->subWindowList())
+            tags << child->widget()->windowTitle() + "=" + QString::number(WindowTag(child));
+        return tags;
+    }
+
+    frmDataSheetTree* sheet = nullptr;
+    QTreeWidget* tree = nullptr;
+};
+
+TEST_F(SheetTreeTest, AddingBeforeANewSheetAsksForOneAndMakesNoWindow)
+{
+    find("AddNewWaveform")->trigger();
+    ASSERT_EQ(test->boxes.size(), 1);
+    EXPECT_EQ(test->boxes[0].text, "Please Open or Creat a Data Sheet First!");
+    EXPECT_TRUE(window->mdiArea()->subWindowList().isEmpty());
+    EXPECT_EQ(tree->topLevelItemCount(), 0);
+}
+
+TEST_F(SheetTreeTest, TheToolbarAddsAWaveWindowUnderTheNewSheet)
+{
+    find("mnuNewDataSheet")->trigger();
+    EXPECT_EQ(root()->text(0), "Untitle");
+    EXPECT_EQ(window->windowTitle(), "Selvane - Untitle");
+    find("AddNewWaveform")->trigger();
+    EXPECT_EQ(nodeTexts(), QStringList{"Wave0"});
+    EXPECT_EQ(tree->currentItem(), root()->child(0));
+    ASSERT_EQ(window->mdiArea()->subWindowList().size(), 1);
+    QMdiSubWindow* child = window->mdiArea()->subWindowList().first();
+    EXPECT_EQ(child->widget()->objectName(), "frmWave");
+    EXPECT_EQ(windowTags(), QStringList{"Wave0=0"});
+    EXPECT_EQ(window->mdiArea()->activeSubWindow(), child);
+    EXPECT_TRUE(test->boxes.isEmpty());
+}
+
+TEST_F(SheetTreeTest, RemovingTheMiddleWaveRenumbersTheLaterTags)
+{
+    find("mnuNewDataSheet")->trigger();
+    addWaves(3);
+    tree->setCurrentItem(root()->child(1));
+    find("mnuRemove")->trigger();
+    EXPECT_EQ(nodeTexts(), QStringList({"Wave0", "Wave2"}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(windowTags(), QStringList({"Wave0=0", "Wave2=1"}));
+    EXPECT_EQ(SheetSlotNames[KindIndex(SheetKind::Wave)].size(), 2);
+    EXPECT_TRUE(test->boxes.isEmpty()) << "a child goes without a question";
+}
+
+TEST_F(SheetTreeTest, AWaveWindowThatRefusesToCloseKeepsItsNodeAndSlot)
+{
+    find("mnuNewDataSheet")->trigger();
+    addWaves(2);
+    WaveRecords[0].DateText = "first";
+    tree->setCurrentItem(root()->child(0));
+    Connecting = true; // a wave window won't close while a connection is being made
+    find("mnuRemove")->trigger();
+    Connecting = false;
+    EXPECT_EQ(nodeTexts(), QStringList({"Wave0", "Wave1"}));
+    EXPECT_EQ(windowTags(), QStringList({"Wave0=0", "Wave1=1"}));
+    EXPECT_EQ(WaveRecords[0].DateText, "first");
+}
+
+TEST_F(SheetTreeTest, TheRootRefusesRenameAndAChildTakesItsNewName)
+{
+    find("mnuNewDataSheet")->trigger();
+    find("AddNewMeasure")->trigger();
+    tree->setCurrentItem(root());
+    find("mnuRename")->trigger();
+    ASSERT_EQ(test->boxes.size(), 1);
+    EXPECT_EQ(test->boxes[0].text, "Name of Root Can't Change!");
+    EXPECT_EQ(root()->text(0), "Untitle");
+    root()->child(0)->setText(0, "Supply rail");
+    EXPECT_EQ(SheetSlotNames[KindIndex(SheetKind::Measure)], QStringList{"Supply rail"});
+    EXPECT_EQ(sheet->childWindow(SheetKind::Measure, 0)->widget()->windowTitle(), "Supply rail");
+}
+
+TEST_F(SheetTreeTest, ThePopupNamesTheNodeUnderTheMouse)
+{
+    find("mnuNewDataSheet")->trigger();
+    find("AddNewData")->trigger();
+    const QRect place = tree->visualItemRect(root()->child(0));
+    tree->setCurrentItem(root());
+    Q_EMIT tree->customContextMenuRequested(place.center());
+    EXPECT_EQ(find("mnuRemove")->text(), "&Remove(Data0)");
+    EXPECT_EQ(find("mnuRename")->text(), "Re&name(Data0)");
+    EXPECT_EQ(tree->currentItem(), root()->child(0));
+    find<QMenu>("mnuDataSheet")->close();
+}
+
+TEST_F(SheetTreeTest, RemovingTheRootClosesTheSheetUnlessCancelled)
+{
+    find("mnuNewDataSheet")->trigger();
+    addWaves(2);
+    find("AddNewRecord")->trigger();
+    tree->setCurrentItem(root());
+    test->boxAnswers = {vbCancel, vbNo};
+    find("mnuRemove")->trigger();
+    EXPECT_EQ(nodeTexts().size(), 3);
+    find("mnuRemove")->trigger();
+    ASSERT_EQ(test->boxes.size(), 2);
+    EXPECT_EQ(test->boxes[1].text, "Save the changes to the Data Sheet File? ");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(window->mdiArea()->subWindowList().isEmpty());
+    EXPECT_EQ(tree->topLevelItemCount(), 0);
+    EXPECT_FALSE(DataSheetDirty);
+    EXPECT_EQ(window->windowTitle(), "Selvane");
+}
+
+TEST_F(SheetTreeTest, AClosedChildIsHiddenAndComesBackWhenItsNodeIsSelected)
+{
+    find("mnuNewDataSheet")->trigger();
+    addWaves(2);
+    QMdiSubWindow* first = sheet->childWindow(SheetKind::Wave, 0);
+    first->close();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(sheet->childWindow(SheetKind::Wave, 0), first);
+    EXPECT_FALSE(first->isVisible());
+    tree->setCurrentItem(root()->child(0));
+    EXPECT_TRUE(first->isVisible());
+    EXPECT_EQ(window->mdiArea()->activeSubWindow(), first);
+}
+
+TEST_F(SheetTreeTest, SortedOrdersTheNodesByName)
+{
+    find("mnuNewDataSheet")->trigger();
+    find("AddNewWaveform")->trigger();
+    find("AddNewData")->trigger();
+    find("AddNewMeasure")->trigger();
+    find("mnuSorted")->trigger();
+    EXPECT_TRUE(SheetSorted);
+    EXPECT_EQ(nodeTexts(), QStringList({"Data0", "Measure0", "Wave0"}));
+    root()->child(2)->setText(0, "Alpha");
+    EXPECT_EQ(nodeTexts(), QStringList({"Alpha", "Data0", "Measure0"}));
+}
+
+TEST_F(SheetTreeTest, SavingSaysSheetFilesAreNotThereYetOnlyWithASheetOpen)
+{
+    find("mnuSaveDataSheet")->trigger();
+    EXPECT_TRUE(test->boxes.isEmpty());
+    find("mnuNewDataSheet")->trigger();
+    find("mnuSaveDataSheetAs")->trigger();
+    find("mnuFileSaveDataSheet")->trigger();
+    ASSERT_EQ(test->boxes.size(), 2);
+    EXPECT_EQ(test->boxes[1].text, "Data sheet files can't be saved or opened in this version.");
+    EXPECT_EQ(test->boxes[1].style, vbInformation);
+}
+
+} // namespace
