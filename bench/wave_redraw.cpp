@@ -1,44 +1,21 @@
 // Cost of a full wave-picture redraw and of placing a received block into a record.
+#include "benchsupport.h"
+
 #include "acquire/blockplacement.h"
 #include "acquire/waveparameter.h"
 #include "wave/qimagesurface.h"
 #include "wave/wavedrawing.h"
 
-#include <QGuiApplication>
 #include <benchmark/benchmark.h>
 #include <cmath>
 #include <vector>
 
 namespace {
 
-// A Y-T reading of four channels over the whole screen, sine waves at four heights.
-WaveRecord fourChannelRecord()
-{
-    WaveRecord r;
-    r.HasData = r.YTMode = r.ColorMode = r.GridOn = true;
-    r.Points = 600;
-    r.TriggerMode = QStringLiteral("EDGE");
-    r.FFTDisplayText = QStringLiteral("OFF");
-    r.Parameter.s16ScrEndPos = 299;
-    r.TimeScaleText = QStringLiteral("1.000ms");
-    r.TimeOffsetText = QStringLiteral("0.000s");
-    for (int n = 1; n <= 4; ++n) {
-        r.setShowChannel(n, true);
-        r.PrevShow[n] = true;
-        r.ScaleText[n] = QStringLiteral("1.00V");
-        r.OffsetText[n] = QString::number(2 - n) + QStringLiteral(".00V");
-        WaveArray& wave = r.channelWave(n);
-        wave.assign(2049, 0);
-        for (int i = 213; i <= 812; ++i)
-            wave[i] = int(50.0 * n - 20 + 18 * std::sin(i * 0.05 * n));
-    }
-    return r;
-}
-
 void BM_FullRedraw(benchmark::State& state)
 {
     const double zoom = state.range(0) / 100.0;
-    const WaveRecord record = fourChannelRecord();
+    const WaveRecord record = SineReading(4, QStringLiteral("1.00V"));
     QImageSurface surface(QSize(int(350 * zoom), int(250 * zoom)));
     const WaveCanvas canvas(surface, zoom);
     for (auto _ : state) {
@@ -96,14 +73,7 @@ BENCHMARK(BM_Lindquay);
 
 } // namespace
 
-// Text needs fonts, and fonts need a GUI application; offscreen, so no display is required.
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return GuiBenchmarkMain(argc, argv);
 }
