@@ -3,10 +3,12 @@
 #include "sheet/frmDataSheetTree.h"
 
 #include "frame/captionwidgets.h"
+#include "frame/language.h"
 #include "frame/productinfo.h"
 #include "sheet/frmSheetWindows.h"
 #include "sheet/sheetslots.h"
 #include "sheet/sheetstate.h"
+#include "stored/storedfiledialogs.h"
 
 #include <QEvent>
 #include <QMdiArea>
@@ -76,6 +78,17 @@ void frmDataSheetTree::AddWindow(SheetKind kind)
     root()->setExpanded(true);
     sortIfFlagged();
     DataSheetTree->setCurrentItem(child.node);
+    askForStoredFile(kind);
+}
+
+// A new memory wave or record window goes straight on to its file dialog; a
+// cancel leaves the empty window. The chosen file is read once those windows land.
+void frmDataSheetTree::askForStoredFile(SheetKind kind)
+{
+    if (kind == SheetKind::MemoryWave)
+        OpenFileDialog(MemoryWaveDialogRequest(Language));
+    else if (kind == SheetKind::Record)
+        OpenFileDialog(RecordDialogRequest(Language));
 }
 
 void frmDataSheetTree::SetActiveForm()

@@ -62,6 +62,8 @@ class frmDataSheetTree : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void askForStoredFile(SheetKind kind);
+
     struct Child {
         QTreeWidgetItem* node = nullptr;
         QPointer<QMdiSubWindow> window;

@@ -186,3 +186,17 @@ TEST_F(SheetTreeTest, SavingSaysSheetFilesAreNotThereYetOnlyWithASheetOpen)
 }
 
 } // namespace
+
+TEST_F(SheetTreeTest, StoredKindsAskForTheirFileAndACancelLeavesTheEmptyWindow)
+{
+    find("mnuNewDataSheet")->trigger();
+    find("AddNewMemoryWaveform")->trigger();
+    find("AddNewRecord")->trigger();
+    ASSERT_EQ(test->openRequests.size(), 2);
+    EXPECT_EQ(test->openRequests[0].title, "Open Waveform Files");
+    EXPECT_EQ(test->openRequests[0].filter, "Waveform Files (*.wfm)");
+    EXPECT_EQ(test->openRequests[1].title, "Open Record Files");
+    EXPECT_EQ(test->openRequests[1].filter, "Record Files (*.rcd)");
+    EXPECT_EQ(nodeTexts().size(), 2);
+    EXPECT_EQ(window->mdiArea()->subWindowList().size(), 2);
+}
