@@ -83,6 +83,7 @@ void frmMain::Form_Load()
     TimerInit->start();
     ResetWaveRecords();
     Connecting = false;
+    InstallTreeDisplaySwitches();
     createPanes();
 }
 
