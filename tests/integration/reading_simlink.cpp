@@ -3,8 +3,6 @@
 #include "link/connection.h"
 #include "link/linkstate.h"
 #include "link/usbtransport.h"
-#include "platform/programstate.h"
-#include "visa/visaconfig.h"
 
 #include <QDeadlineTimer>
 #include <QTcpSocket>
@@ -46,23 +44,20 @@ QByteArray exchange(quint16 port, const QByteArray& line)
 
 SimReadingTest::SimReadingTest()
 {
-    ResetProgramState();
     platform->realSleep = true;
 }
 
 SimReadingTest::~SimReadingTest()
 {
     DisconnectDevice();
-    CloseVisaRM();
-    ResetProgramState();
 }
 
 bool SimReadingTest::startSim(const QStringList& options)
 {
-    sim = std::make_unique<SimProcess>(QStringLiteral(SELVANE_SIM_PATH));
-    const bool started = sim->start(options);
-    EXPECT_TRUE(started) << sim->errorString().toStdString();
-    return started;
+    link = std::make_unique<SimLink>(options);
+    sim = &link->sim();
+    EXPECT_TRUE(link->started()) << link->errorString().toStdString();
+    return link->started();
 }
 
 QStringList SimReadingTest::socketResources() const
@@ -73,24 +68,15 @@ QStringList SimReadingTest::socketResources() const
 
 bool SimReadingTest::connectOverSocket()
 {
-    std::vector<std::string> listed;
-    for (const QString& name : socketResources())
-        listed.push_back(name.toStdString());
-    selvaneVisaSetConfiguredResources(listed);
-    TransportType = TransportVisa;
-    ResourceName = socketResources().first();
-    ResourceChosen = true;
-    OpenVisaRM();
+    link->aim(LinkTransport::Socket);
     ConnectDevice();
     return Connected;
 }
 
 bool SimReadingTest::connectOverSerial()
 {
-    TransportType = TransportRs232;
-    SerialDevice = sim->ptyPath();
+    link->aim(LinkTransport::Serial);
     BaudRate = QStringLiteral("115200");
-    OpenVisaRM();
     ConnectDevice();
     return Connected;
 }

@@ -1,24 +1,23 @@
 #pragma once
-// The readings against kv7200b-sim: a simulator of their own per test, the
-// program's link connected to it over a raw socket (or its pseudo-terminal),
-// and a second plain socket that asks the simulator directly, to compare
-// what a reading stored with what the instrument sends.
+// The readings against kv7200b-sim: the link's fixture (a logging simulator of
+// the test's own, our VISA layer, the program's link aimed at it), plus a second
+// plain socket that asks the simulator directly, to compare what a reading
+// stored with what the instrument sends.
 
-#include "platform/testplatform.h"
-#include "simprocess.h"
+#include "link_simlink.h"
 
 #include <QByteArray>
-#include <gtest/gtest.h>
 #include <memory>
+#include <vector>
 
-class SimReadingTest : public ::testing::Test {
+class SimReadingTest : public SimLinkTest {
   protected:
     SimReadingTest();
     ~SimReadingTest() override;
 
     // Starts the simulator; false (with a test failure) when it does not come up.
     bool startSim(const QStringList& options = {});
-    // The two resources the link needs for the simulator's raw socket: the
+    // The two resources the command line needs for the simulator's raw socket: the
     // socket itself and an INSTR resource, so that the find lists one.
     QStringList socketResources() const;
     // Connects the program's link over the raw socket, or over the pty.
@@ -32,8 +31,8 @@ class SimReadingTest : public ::testing::Test {
     // Sends commands directly (no reply).
     void send(const QByteArray& line);
 
-    ScopedTestPlatform platform;
-    std::unique_ptr<SimProcess> sim;
+    std::unique_ptr<SimLink> link;
+    SimProcess* sim = nullptr;
 };
 
 // Codes of a block as numbers, sample i (from 1) at index i - 1.

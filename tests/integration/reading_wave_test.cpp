@@ -9,8 +9,6 @@
 #include "link/linkcommands.h"
 #include "link/linkstate.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <algorithm>
 
 namespace {
@@ -36,22 +34,9 @@ class WaveReading : public SimReadingTest {
   protected:
     void SetUp() override
     {
-        ASSERT_TRUE(startSim({"--log", logDir.filePath("sim.log")}));
+        ASSERT_TRUE(startSim());
         ASSERT_TRUE(connectOverSocket());
     }
-
-    // The commands the simulator received, in order.
-    QStringList loggedCommands()
-    {
-        QFile log(logDir.filePath("sim.log"));
-        if (!log.open(QIODevice::ReadOnly)) return {};
-        QStringList commands;
-        for (const QByteArray& line : log.readAll().split('\n'))
-            if (line.contains(' ')) commands.append(QString::fromLatin1(line.mid(line.indexOf(' ') + 1)));
-        return commands;
-    }
-
-    QTemporaryDir logDir;
 };
 
 TEST_F(WaveReading, ChannelsHoldTheInstrumentsCodesAndItsSettings)
@@ -136,7 +121,7 @@ TEST_F(WaveReading, AlternateTriggerAsksBothTimeBasesInOrder)
     EXPECT_EQ(r.TriggerMode, "ALTERNATION");
     EXPECT_TRUE(r.SplitScreen);
     QStringList timeQueries;
-    for (const QString& command : loggedCommands())
+    for (const QString& command : link->loggedCommands())
         if (command.startsWith(":TRIGGER:ALTERNATION:TIME") || command.startsWith(":TIMEBASE:SCALE") ||
             command.startsWith(":TIMEBASE:OFFSET"))
             timeQueries.append(command);
