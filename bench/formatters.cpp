@@ -1,7 +1,7 @@
 // Calls per second of the value-text formatters that fill trees and tables.
 
-#include "controller/formatmask.h"
-#include "controller/valuetext.h"
+#include "text/formatmask.h"
+#include "text/valuetext.h"
 
 #include <QStringList>
 #include <benchmark/benchmark.h>

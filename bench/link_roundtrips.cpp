@@ -10,7 +10,7 @@
 #include "link/linkcommands.h"
 #include "link/linkstate.h"
 #include "link/usbtransport.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 #include "platform/testplatform.h"
 #include "visa/visaconfig.h"
 

@@ -1,7 +1,7 @@
 // Feeds arbitrary reply text to every value text parser and formatter: none
 // may crash, hang or read out of bounds, whatever the instrument sends.
-#include "controller/valuetext.h"
-#include "controller/formatmask.h"
+#include "text/valuetext.h"
+#include "text/formatmask.h"
 
 #include <QString>
 #include <cstddef>

@@ -3,7 +3,7 @@
 #include "acquire/blockplacement.h"
 #include "acquire/operation.h"
 #include "acquire/wavebytes.h"
-#include "controller/valuetext.h"
+#include "text/valuetext.h"
 #include "link/devicefacts.h"
 #include "link/linkcommands.h"
 #include "link/usbtransport.h"

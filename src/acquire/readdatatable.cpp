@@ -4,7 +4,7 @@
 #include "acquire/readblocks.h"
 #include "acquire/tabletext.h"
 #include "acquire/wavebytes.h"
-#include "controller/valuetext.h"
+#include "text/valuetext.h"
 #include "link/devicefacts.h"
 #include "link/linkcommands.h"
 #include "link/usbtransport.h"

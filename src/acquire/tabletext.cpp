@@ -1,6 +1,6 @@
 #include "acquire/tabletext.h"
 
-#include "controller/formatmask.h"
+#include "text/formatmask.h"
 
 TableTextColumn DataTimeText;
 TableTextColumn DataValueText;

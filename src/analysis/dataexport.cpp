@@ -1,6 +1,6 @@
 #include "analysis/dataexport.h"
 
-#include "frame/productinfo.h"
+#include "text/productinfo.h"
 
 namespace {
 

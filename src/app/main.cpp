@@ -1,6 +1,6 @@
 #include "frame/frmMain.h"
 #include "frame/frmStartup.h"
-#include "frame/productinfo.h"
+#include "text/productinfo.h"
 #include "platform/widgetsplatform.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "cli/clilink.h"
 
-#include "frame/language.h"
-#include "frame/messages.h"
+#include "text/language.h"
+#include "text/messages.h"
 #include "link/connection.h"
 #include "link/linkstate.h"
 #include "link/usbtransport.h"

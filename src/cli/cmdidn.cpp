@@ -1,7 +1,7 @@
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
 
-#include "controller/valuetext.h"
+#include "text/valuetext.h"
 #include "link/linkcommands.h"
 #include "link/timeouttimer.h"
 #include "link/vocabulary.h"

@@ -1,6 +1,6 @@
 #include "controller/ctrlstate.h"
 
-#include "frame/treewords.h"
+#include "text/treewords.h"
 #include "link/devicefacts.h"
 #include "wave/wavechannels.h"
 

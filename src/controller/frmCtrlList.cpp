@@ -1,6 +1,6 @@
 #include "controller/frmCtrlList.h"
 
-#include "frame/captionwidgets.h"
+#include "text/captionwidgets.h"
 
 namespace {
 constexpr int windowCaptionSlot = 0; // "DSO Controller"

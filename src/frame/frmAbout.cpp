@@ -1,6 +1,6 @@
 #include "frame/frmAbout.h"
 
-#include "frame/productinfo.h"
+#include "text/productinfo.h"
 #include "platform/platform.h"
 
 #include <QEvent>

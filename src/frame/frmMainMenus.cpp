@@ -2,7 +2,7 @@
 
 #include "frame/frmMain.h"
 
-#include "frame/captionwidgets.h"
+#include "text/captionwidgets.h"
 #include "frame/recentfiles.h"
 #include "frame/tilelayout.h"
 

@@ -3,7 +3,7 @@
 
 #include "frame/frmMain.h"
 
-#include "frame/captionwidgets.h"
+#include "text/captionwidgets.h"
 #include "sheet/frmDataSheetTree.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 #include "frame/frmOptions.h"
 
-#include "frame/captionwidgets.h"
-#include "frame/language.h"
+#include "text/captionwidgets.h"
+#include "text/language.h"
 #include "frame/optionschoice.h"
 #include "frame/softwaresettings.h"
 #include "link/linkstate.h"

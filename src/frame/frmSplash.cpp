@@ -1,6 +1,6 @@
 #include "frame/frmSplash.h"
 
-#include "frame/productinfo.h"
+#include "text/productinfo.h"
 
 #include <QLabel>
 #include <QScreen>

@@ -2,8 +2,8 @@
 
 #include "frame/frmMain.h"
 #include "frame/frmSplash.h"
-#include "frame/language.h"
-#include "frame/messages.h"
+#include "text/language.h"
+#include "text/messages.h"
 #include "link/frmDlgResource.h"
 
 #include <QApplication>

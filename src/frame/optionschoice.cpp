@@ -1,6 +1,6 @@
 #include "frame/optionschoice.h"
 
-#include "controller/valuetext.h"
+#include "text/valuetext.h"
 #include "frame/softwaresettings.h"
 #include "link/connection.h"
 #include "link/linkcommands.h"

@@ -1,7 +1,7 @@
 #include "link/frmDlgResource.h"
 
-#include "frame/captionwidgets.h"
-#include "frame/language.h"
+#include "text/captionwidgets.h"
+#include "text/language.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
 

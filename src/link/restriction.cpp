@@ -1,6 +1,6 @@
 #include "link/restriction.h"
 
-#include "frame/language.h"
+#include "text/language.h"
 
 #include <iterator>
 

@@ -1,5 +1,5 @@
-#include "controller/valuetext.h"
-#include "frame/messages.h"
+#include "text/valuetext.h"
+#include "text/messages.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"
 #include "link/serialtransport.h"

@@ -1,6 +1,6 @@
 #include "acquire/wavebytes.h"
 #include "acquire/waveparameter.h"
-#include "frame/messages.h"
+#include "text/messages.h"
 #include "link/linkcommands.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"

@@ -1,4 +1,4 @@
-#include "frame/messages.h"
+#include "text/messages.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
 #include "link/usbtransport.h"

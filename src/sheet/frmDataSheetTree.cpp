@@ -2,9 +2,9 @@
 
 #include "sheet/frmDataSheetTree.h"
 
-#include "frame/captionwidgets.h"
-#include "frame/language.h"
-#include "frame/productinfo.h"
+#include "text/captionwidgets.h"
+#include "text/language.h"
+#include "text/productinfo.h"
 #include "sheet/frmSheetWindows.h"
 #include "sheet/sheetslots.h"
 #include "sheet/sheetstate.h"

@@ -2,9 +2,9 @@
 
 #include "sheet/frmDataSheetTree.h"
 
-#include "frame/captionwidgets.h"
-#include "frame/language.h"
-#include "frame/messages.h"
+#include "text/captionwidgets.h"
+#include "text/language.h"
+#include "text/messages.h"
 #include "platform/platform.h"
 #include "sheet/sheetslots.h"
 #include "sheet/sheetstate.h"

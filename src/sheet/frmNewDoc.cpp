@@ -1,7 +1,7 @@
 #include "sheet/frmNewDoc.h"
 
-#include "frame/captionwidgets.h"
-#include "frame/language.h"
+#include "text/captionwidgets.h"
+#include "text/language.h"
 #include "sheet/frmDataSheetTree.h"
 #include "sheet/sheetstate.h"
 

@@ -1,6 +1,6 @@
 #include "sheet/sheetkinds.h"
 
-#include "frame/language.h"
+#include "text/language.h"
 
 namespace {
 

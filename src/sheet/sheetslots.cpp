@@ -1,7 +1,7 @@
 #include "sheet/sheetslots.h"
 
-#include "frame/captions.h"
-#include "frame/messages.h"
+#include "text/captions.h"
+#include "text/messages.h"
 #include "platform/platform.h"
 #include "sheet/sheetstate.h"
 #include "sheet/slotrecords.h"

@@ -2,7 +2,7 @@
 // What the data sheet tree does to the sheet, without windows: opening and
 // closing a sheet, taking, naming and releasing the slots of its windows.
 
-#include "frame/language.h"
+#include "text/language.h"
 #include "sheet/sheetkinds.h"
 
 #include <QString>

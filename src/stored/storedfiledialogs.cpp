@@ -1,6 +1,6 @@
 #include "stored/storedfiledialogs.h"
 
-#include "frame/language.h"
+#include "text/language.h"
 
 FileDialogRequest MemoryWaveDialogRequest(int language)
 {

@@ -4,7 +4,7 @@
 // the drawing has to ask the instrument.
 
 #include "acquire/waveparameter.h"
-#include "controller/valuetext.h"
+#include "text/valuetext.h"
 #include "wave/displaytexts.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 // The channel marker: an arrow at the channel's zero row, or a clipped arrow at
 // the edge when the zero row lies outside the picture, and the channel legend.
 #include "acquire/waverecord.h"
-#include "controller/valuetext.h"
+#include "text/valuetext.h"
 #include "wave/alternation.h"
 #include "wave/wavedrawing.h"
 

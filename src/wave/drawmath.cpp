@@ -1,6 +1,6 @@
 // The math trace, the spectrum, and their marker and legends.
-#include "controller/formatmask.h"
-#include "controller/valuetext.h"
+#include "text/formatmask.h"
+#include "text/valuetext.h"
 #include "wave/alternation.h"
 #include "wave/tracerun.h"
 #include "wave/wavedrawing.h"

@@ -1,6 +1,6 @@
 // The trigger-position markers on the top edge of each time base, and the
 // delay and time scale legends.
-#include "controller/valuetext.h"
+#include "text/valuetext.h"
 #include "wave/wavecolors.h"
 #include "wave/wavedrawing.h"
 

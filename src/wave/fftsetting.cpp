@@ -1,7 +1,7 @@
 #include "wave/fftsetting.h"
 
 #include "acquire/waverecord.h"
-#include "frame/captions.h"
+#include "text/captions.h"
 
 #include <QRandomGenerator>
 

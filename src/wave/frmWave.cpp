@@ -2,8 +2,8 @@
 
 #include "acquire/operation.h"
 #include "acquire/waverecord.h"
-#include "frame/captionwidgets.h"
-#include "frame/language.h"
+#include "text/captionwidgets.h"
+#include "text/language.h"
 #include "link/linkstate.h"
 #include "sheet/sheetstate.h"
 #include "wave/frmWavePicture.h"

@@ -1,7 +1,7 @@
 #include "wave/frmWaveSetting.h"
 
 #include "acquire/waverecord.h"
-#include "frame/language.h"
+#include "text/language.h"
 #include "wave/fftsetting.h"
 #include "wave/frmWave.h"
 

@@ -3,8 +3,8 @@
 #include "wave/frmWave.h"
 
 #include "acquire/waverecord.h"
-#include "frame/language.h"
-#include "frame/messages.h"
+#include "text/language.h"
+#include "text/messages.h"
 #include "link/devicefacts.h"
 #include "platform/platform.h"
 #include "sheet/sheetstate.h"

@@ -1,6 +1,6 @@
 #include "wave/pictureexport.h"
 
-#include "frame/language.h"
+#include "text/language.h"
 #include "platform/platform.h"
 
 #include <QSaveFile>

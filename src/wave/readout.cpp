@@ -1,7 +1,7 @@
 #include "wave/readout.h"
 
-#include "controller/valuetext.h"
-#include "frame/captions.h"
+#include "text/valuetext.h"
+#include "text/captions.h"
 #include "wave/cursorpalette.h"
 #include "wave/displaytexts.h"
 #include "wave/readouttext.h"

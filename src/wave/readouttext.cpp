@@ -1,6 +1,6 @@
 #include "wave/readouttext.h"
 
-#include "controller/valuetext.h"
+#include "text/valuetext.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #include "wave/waverefresh.h"
 
-#include "frame/language.h"
+#include "text/language.h"
 
 #include <QString>
 

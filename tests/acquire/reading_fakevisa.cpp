@@ -1,7 +1,7 @@
 #include "reading_fakevisa.h"
 
 #include "link/linkstate.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 #include "acquire/tabletext.h"
 #include "acquire/wavebytes.h"
 #include "acquire/waverecord.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 
 #include <gtest/gtest.h>
 

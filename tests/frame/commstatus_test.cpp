@@ -1,5 +1,5 @@
 #include "frame/commstatus.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 
 #include <gtest/gtest.h>
 

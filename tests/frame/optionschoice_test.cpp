@@ -1,7 +1,7 @@
 #include "frame/optionschoice.h"
 #include "frame/softwaresettings.h"
 #include "link/linkstate.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 #include "platform/testplatform.h"
 
 #include <gtest/gtest.h>

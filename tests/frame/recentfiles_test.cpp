@@ -1,5 +1,5 @@
 #include "frame/recentfiles.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 #include "platform/testplatform.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "frame/softwaresettings.h"
 #include "link/linkstate.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 #include "platform/testplatform.h"
 
 #include <gtest/gtest.h>

@@ -6,7 +6,7 @@
 #include "acquire/operation.h"
 #include "frame/softwaresettings.h"
 #include "link/linkstate.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 #include "platform/testplatform.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "frame/frmAbout.h"
 #include "frame/helpfile.h"
-#include "frame/language.h"
-#include "platform/programstate.h"
+#include "text/language.h"
+#include "state/programstate.h"
 #include "platform/testplatform.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "mainwindowfixture.h"
 
-#include "frame/language.h"
+#include "text/language.h"
 
 #include <QDockWidget>
 #include <QLabel>

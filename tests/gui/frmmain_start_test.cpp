@@ -1,7 +1,7 @@
 #include "mainwindowfixture.h"
 
 #include "frame/frmStartup.h"
-#include "frame/language.h"
+#include "text/language.h"
 #include "frame/recentfiles.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"

@@ -1,11 +1,11 @@
 #include "fakeinstrument.h"
 #include "frame/frmOptions.h"
-#include "frame/language.h"
+#include "text/language.h"
 #include "frame/softwaresettings.h"
 #include "link/connection.h"
 #include "link/linkstate.h"
 #include "link/usbtransport.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 #include "platform/testplatform.h"
 
 #include <QCheckBox>

@@ -6,7 +6,7 @@
 #include "link/connection.h"
 #include "link/linkstate.h"
 #include "link/usbtransport.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 #include "visa/visaconfig.h"
 #include "wave/fftsetting.h"
 #include "wave/waverefresh.h"

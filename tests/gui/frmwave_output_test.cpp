@@ -3,7 +3,7 @@
 #include "frmwave_fixture.h"
 
 #include "acquire/waverecord.h"
-#include "frame/language.h"
+#include "text/language.h"
 #include "wave/waveprint.h"
 
 #include <QApplication>

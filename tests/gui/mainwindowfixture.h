@@ -4,7 +4,7 @@
 
 #include "fakeinstrument.h"
 #include "frame/frmMain.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 #include "platform/testplatform.h"
 
 #include <QAction>

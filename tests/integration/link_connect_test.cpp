@@ -2,7 +2,7 @@
 // transport, and the refusals of instruments the program doesn't support.
 #include "link_simlink.h"
 
-#include "controller/valuetext.h"
+#include "text/valuetext.h"
 #include "link/connection.h"
 #include "link/devicefacts.h"
 #include "link/linkcommands.h"

@@ -2,7 +2,7 @@
 
 #include "link/linkstate.h"
 #include "link/usbtransport.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 #include "visa/visaconfig.h"
 
 #include <QDeadlineTimer>

@@ -2,8 +2,8 @@
 // identities are accepted, what a refusal shows and leaves behind.
 #include "link_fakevisa.h"
 
-#include "frame/language.h"
-#include "frame/messages.h"
+#include "text/language.h"
+#include "text/messages.h"
 #include "link/connection.h"
 #include "link/devicefacts.h"
 #include "link/linklamp.h"

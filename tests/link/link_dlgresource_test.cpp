@@ -2,7 +2,7 @@
 // double click end it.
 #include "link_fakevisa.h"
 
-#include "frame/language.h"
+#include "text/language.h"
 #include "link/frmDlgResource.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"

@@ -5,7 +5,7 @@
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
 #include "link/usbtransport.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 // The firmware field of the identity and the version gate.
 #include "link/devicefacts.h"
 #include "link/firmware.h"
-#include "platform/programstate.h"
+#include "state/programstate.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 // the boxes, and the session's attributes.
 #include "link_fakevisa.h"
 
-#include "frame/language.h"
-#include "frame/messages.h"
+#include "text/language.h"
+#include "text/messages.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
 #include "link/usbtransport.h"

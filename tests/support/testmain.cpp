@@ -1,4 +1,4 @@
-#include "platform/programstate.h"
+#include "state/programstate.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "drawtesting.h"
-#include "frame/language.h"
+#include "text/language.h"
 #include "wave/cursorpalette.h"
 #include "wave/readout.h"
 #include "wave/wavecolors.h"

@@ -4,7 +4,7 @@
 #include "controller/ctrlstate.h"
 #include "frame/frmMain.h"
 #include "frame/frmStartup.h"
-#include "frame/productinfo.h"
+#include "text/productinfo.h"
 #include "link/linkstate.h"
 #include "platform/cliplatform.h"
 

@@ -1,0 +1,42 @@
+#include "text/language.h"
+
+#include "text/messages.h"
+#include "platform/platform.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+int Language = LanguageEnglish;
+
+namespace {
+const QString section = QStringLiteral("Selvane_Language_KV7200B");
+const QString key = QStringLiteral("Language");
+} // namespace
+
+void LoadLanguageSetting()
+{
+    Language = GetSettingInt(section, key, LanguageEnglish);
+}
+
+void SaveLanguageSetting()
+{
+    SaveSetting(section, key, QString::number(Language));
+}
+
+// The help pages ship as HTML under the names the compiled help files had.
+QString HelpFileName(int language)
+{
+    return IsChinese(language) ? QStringLiteral("KV7200help_Chinese.html")
+                               : QStringLiteral("KV7200help.html");
+}
+
+QString HelpFilePath(int language)
+{
+    return QDir(QCoreApplication::applicationDirPath()).filePath(HelpFileName(language));
+}
+
+void ResetLanguageState()
+{
+    Language = LanguageEnglish;
+    LoadMessages();
+}

@@ -1,0 +1,113 @@
+#include "text/valuetext.h"
+#include "textcase.h"
+
+#include <QMap>
+#include <QStringList>
+#include <gtest/gtest.h>
+
+namespace {
+
+// Answers from a table and records every query in order.
+class LevelToVoltsTest : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        previous = SetLevelQuery([this](const QString& query) {
+            asked << query;
+            return replies.value(query);
+        });
+    }
+    void TearDown() override { SetLevelQuery(previous); }
+
+    QMap<QString, QString> replies;
+    QStringList asked;
+    InstrumentQuery previous;
+};
+
+TEST_F(LevelToVoltsTest, ChannelAsksScaleBeforeOffset)
+{
+    replies[QStringLiteral(":CHANNEL2:SCALE?")] = QStringLiteral("5.000e-01\n");
+    replies[QStringLiteral(":CHANNEL2:OFFSET?")] = QStringLiteral("1.000e-01\n");
+    EXPECT_EQ(LevelToVolts(QStringLiteral("2.00div"), QStringLiteral("CHANNEL2")), QStringLiteral("0.9"));
+    EXPECT_EQ(asked, QStringList({QStringLiteral(":CHANNEL2:SCALE?"), QStringLiteral(":CHANNEL2:OFFSET?")}));
+}
+
+TEST_F(LevelToVoltsTest, KeepsArithmeticNoiseOutOfTheCommand)
+{
+    replies[QStringLiteral(":CHANNEL1:SCALE?")] = QStringLiteral("0.1");
+    EXPECT_EQ(LevelToVolts(QStringLiteral("1.20div"), QStringLiteral("CHANNEL1")), QStringLiteral("0.12"));
+    replies[QStringLiteral(":CHANNEL4:SCALE?")] = QStringLiteral("2e-3");
+    replies[QStringLiteral(":CHANNEL4:OFFSET?")] = QStringLiteral("-0.5");
+    EXPECT_EQ(LevelToVolts(QStringLiteral("-6.00div"), QStringLiteral("CHANNEL4")), QStringLiteral("0.488"));
+}
+
+TEST_F(LevelToVoltsTest, ExternalAndLineSourcesAskNothing)
+{
+    const struct {
+        const char* div;
+        const char* source;
+        const char* volts;
+    } cases[] = {{"1.00div", "EXT", "0.2"}, {"-2.00div", "EXT5", "-2"}, {"3.00div", "ACLINE", "0"},
+                 {"3.00div", "D3", "0"},    {"1.00div", "CH1", "0"},    {"1.00div", "", "0"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.source);
+        EXPECT_EQ(LevelToVolts(QString::fromLatin1(c.div), QString::fromLatin1(c.source)),
+                  QString::fromLatin1(c.volts));
+    }
+    EXPECT_TRUE(asked.isEmpty());
+}
+
+TEST_F(LevelToVoltsTest, SilentInstrumentGivesZero)
+{
+    EXPECT_EQ(LevelToVolts(QStringLiteral("2.00div"), QStringLiteral("CHANNEL3")), QStringLiteral("0"));
+    EXPECT_EQ(asked.size(), 2);
+}
+
+TEST(LevelQuerySeam, DefaultAnswersNothing)
+{
+    const InstrumentQuery previous = SetLevelQuery(nullptr);
+    EXPECT_EQ(LevelToVolts(QStringLiteral("2.00div"), QStringLiteral("CHANNEL1")), QStringLiteral("0"));
+    SetLevelQuery(previous);
+}
+
+TEST(ProbeScaleToOneX, DividesLadderTextsByTheRatio)
+{
+    const struct {
+        const char* voltDiv;
+        const char* probe;
+        const char* expected;
+    } cases[] = {
+        {"123mV", "1X", "123mV"},     {"200mV", "10X", "20.0mV"},   {"20.0mV", "10X", "2.00mV"},
+        {"100V", "10X", "10.0V"},     {"4.00mV", "2X", "2.00mV"},   {"40.0mV", "2X", "20.0mV"},
+        {"400mV", "2X", "200mV"},     {"4.00V", "2X", "2.00V"},     {"20.0V", "2X", "10.0V"},
+        {"10.0mV", "5X", "2.00mV"},   {"25.0mV", "5X", "5.00mV"},   {"250mV", "5X", "50.0mV"},
+        {"2.50V", "5X", "500mV"},     {"25.0V", "5X", "5.00V"},     {"40.0mV", "20X", "2.00mV"},
+        {"200V", "20X", "10.0V"},     {"100mV", "50X", "2.00mV"},   {"500V", "50X", "10.0V"},
+        {"200mV", "100X", "2.00mV"},  {"1.00kV", "100X", "10.0V"},  {"400mV", "200X", "2.00mV"},
+        {"400V", "200X", "2.00V"},    {"1.00kV", "200X", "5.00V"},  {"2.00kV", "200X", "10.0V"},
+        {"1.00V", "500X", "2.00mV"},  {"2.50kV", "500X", "5.00V"},  {"2.00V", "1000X", "2.00mV"},
+        {"2.00kV", "1000X", "2.00V"}, {"5.00kV", "1000X", "5.00V"}, {"10.0kV", "1000X", "10.0V"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.voltDiv) + " at " + c.probe);
+        EXPECT_EQ(ProbeScaleToOneX(QString::fromLatin1(c.voltDiv), QString::fromLatin1(c.probe)),
+                  QString::fromLatin1(c.expected));
+    }
+}
+
+TEST(ProbeScaleToOneX, TextsOutsideTheRatiosListGiveTheTopStep)
+{
+    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("3.00V"), QStringLiteral("10X")), QStringLiteral("10.0V"));
+    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("2.00mV"), QStringLiteral("10X")), QStringLiteral("10.0V"));
+    // Only the scale-text spelling is a list entry, not the Volt/Div list's "2kV".
+    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("2kV"), QStringLiteral("1000X")), QStringLiteral("10.0V"));
+    EXPECT_EQ(ProbeScaleToOneX(QString(), QStringLiteral("2X")), QStringLiteral("10.0V"));
+}
+
+TEST(ProbeScaleToOneX, UncoveredProbesLeaveTheText)
+{
+    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("200uV"), QStringLiteral("0.1X")), QStringLiteral("200uV"));
+    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("1.00V"), QString()), QStringLiteral("1.00V"));
+}
+
+} // namespace
