@@ -1,10 +1,10 @@
 #include "cli/clilink.h"
 
-#include "text/language.h"
-#include "text/messages.h"
 #include "link/connection.h"
 #include "link/linkstate.h"
 #include "link/usbtransport.h"
+#include "text/language.h"
+#include "text/messages.h"
 #include "visa/visaconfig.h"
 
 #include <cstdio>
@@ -38,11 +38,21 @@ void AddLinkOptions(QCommandLineParser& parser)
         {"resource", "VISA resource to open; repeated: the first is opened, all are listed.", "name"});
     parser.addOption({"serial", "Serial device to open instead (a tty or pseudo-terminal).", "path"});
     parser.addOption({"baud", "Baud rate of the serial device.", "rate", "9600"});
+    parser.addOption({"language", "Language of texts and value words: english or chinese.", "language"});
 }
 
 bool TakeLinkOptions(const QCommandLineParser& parser, const QString& command, LinkOptions& options)
 {
     options = {parser.values("resource"), parser.value("serial"), parser.value("baud")};
+    const QString language = parser.value("language");
+    if (language == QLatin1String("english"))
+        options.language = LanguageEnglish;
+    else if (language == QLatin1String("chinese"))
+        options.language = LanguageChinese;
+    else if (!language.isEmpty()) {
+        std::fprintf(stderr, "%s: --language is english or chinese\n", qPrintable(command));
+        return false;
+    }
     if (options.resources.isEmpty() != options.serial.isEmpty()) return true;
     std::fprintf(stderr, "%s: give either --resource or --serial\n", qPrintable(command));
     return false;
@@ -51,6 +61,7 @@ bool TakeLinkOptions(const QCommandLineParser& parser, const QString& command, L
 bool OpenLink(const LinkOptions& options)
 {
     LoadLanguageSetting();
+    if (options.language >= 0) Language = options.language;
     LoadMessages();
     presetTransport(options);
     OpenVisaRM();

@@ -9,6 +9,7 @@ struct LinkOptions {
     QStringList resources;
     QString serial;
     QString baud;
+    int language = -1; // --language english|chinese; -1 keeps the stored one
 };
 
 void AddLinkOptions(QCommandLineParser& parser);

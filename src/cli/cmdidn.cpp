@@ -1,10 +1,10 @@
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
 
-#include "text/valuetext.h"
 #include "link/linkcommands.h"
 #include "link/timeouttimer.h"
 #include "link/vocabulary.h"
+#include "text/valuetext.h"
 
 #include <QCommandLineParser>
 #include <cstdio>

@@ -17,6 +17,7 @@ constexpr Subcommand subcommands[] = {
     {"idn", "Connect to the instrument and print its identity.", RunIdnCommand},
     {"wave", "Read one wave window snapshot and write its picture.", RunWaveCommand},
     {"table", "Read one channel as a data table and write its export text.", RunTableCommand},
+    {"download", "Read every setting of the instrument and write a control file.", RunDownloadCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)

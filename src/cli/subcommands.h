@@ -11,3 +11,5 @@ int RunIdnCommand(const QStringList& arguments);
 int RunWaveCommand(const QStringList& arguments);
 // Reads one channel as a data table and writes its export text (--out FILE.txt).
 int RunTableCommand(const QStringList& arguments);
+// Reads every setting of the instrument and writes a control file (--out FILE.rmt).
+int RunDownloadCommand(const QStringList& arguments);

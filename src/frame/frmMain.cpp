@@ -6,9 +6,6 @@
 #include "acquire/waverecord.h"
 #include "controller/ctrlstate.h"
 #include "controller/frmCtrlList.h"
-#include "text/language.h"
-#include "text/messages.h"
-#include "text/productinfo.h"
 #include "frame/recentfiles.h"
 #include "frame/shutdown.h"
 #include "frame/softwaresettings.h"
@@ -20,6 +17,9 @@
 #include "platform/platform.h"
 #include "sheet/frmDataSheetTree.h"
 #include "sheet/sheetstate.h"
+#include "text/language.h"
+#include "text/messages.h"
+#include "text/productinfo.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
@@ -95,6 +95,10 @@ void frmMain::createPanes()
     connect(DataSheetTree, &frmDataSheetTree::mainTitleChanged, this, &QWidget::setWindowTitle);
     CtrlList = new frmCtrlList;
     CtrlList->SetCaptions(Language);
+    connect(CtrlList, &frmCtrlList::ctrlFileNamed, this,
+            [this](const QString& path) { AddRecentFile(RecentCtrlSection, path); });
+    connect(CtrlList, &frmCtrlList::connectRequested, this, &frmMain::mnuToolsConnect_Click);
+    connect(CtrlList, &frmCtrlList::disconnectRequested, this, &frmMain::mnuToolsDisconnect_Click);
     DataSheetPane = makePane(this, "DataSheet", DataSheetTree);
     ControllerPane = makePane(this, "Controller", CtrlList);
     addDockWidget(Qt::LeftDockWidgetArea, DataSheetPane);

@@ -4,9 +4,9 @@
 #include "controller/ctrlstate.h"
 #include "frame/frmMain.h"
 #include "frame/frmStartup.h"
-#include "text/productinfo.h"
 #include "link/linkstate.h"
 #include "platform/cliplatform.h"
+#include "text/productinfo.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -65,7 +65,7 @@ int main(int argc, char** argv)
         trigger(window.get(), "mnuToolsConnect");
         if (!Connected) std::fprintf(stderr, "not connected: the picture shows empty windows\n");
         // As a download of the settings tree would find them: the simulator shows CH1 and CH2.
-        ChDisplay[2] = QStringLiteral("ON");
+        CtrlData.ChDisplay[2] = QStringLiteral("ON");
         trigger(window.get(), "mnuWindowTileHorizontal");
         // The windows' timers tick the channel boxes after the switches first.
         QTimer::singleShot(1200, window.get(), [&] {

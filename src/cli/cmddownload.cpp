@@ -1,0 +1,44 @@
+#include "cli/clilink.h"
+#include "cli/subcommands.h"
+
+#include "acquire/operation.h"
+#include "controller/ctrlfile.h"
+#include "controller/ctrlstate.h"
+#include "controller/download.h"
+#include "link/timeouttimer.h"
+#include "text/messages.h"
+
+#include <QCommandLineParser>
+#include <cstdio>
+
+int RunDownloadCommand(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        "Connects, reads every setting of the instrument as the Download button does\n"
+        "and writes them as a control file (--out FILE.rmt).");
+    parser.addHelpOption();
+    AddLinkOptions(parser);
+    parser.addOption({"out", "The control file to write.", "file"});
+    parser.process(arguments);
+    LinkOptions options;
+    if (!TakeLinkOptions(parser, QStringLiteral("download"), options)) return 2;
+    const QString out = parser.value("out");
+    if (out.isEmpty()) {
+        std::fprintf(stderr, "download: give --out FILE.rmt\n");
+        return 2;
+    }
+
+    TimeOutTimer ticks; // serial replies are waited for on its ticks
+    if (!OpenLink(options)) {
+        std::fprintf(stderr, "%s\n", qPrintable(MsgDeviceNotFound));
+        CloseLink();
+        return 2;
+    }
+    ResetCtrlState(); // the New defaults in the chosen language
+    InstallDownloadOperation();
+    RunReadingFrame(OperationDownload);
+    AfterDownload();
+    CloseLink();
+    return WriteCtrlFile(out) ? 0 : 2;
+}
