@@ -12,9 +12,9 @@ namespace {
 class NodeAdder {
   public:
     explicit NodeAdder(CtrlNode& parent, int column) : parent_(parent), column_(column) {}
-    CtrlNode& leaf(const char* english, const QString& value, WordSense sense = WordSense::Plain)
+    CtrlNode& leaf(const char* english, const QString& value)
     {
-        CtrlNode& node = action(english, sense);
+        CtrlNode& node = action(english);
         node.text = NodeText(node.caption, value);
         return node;
     }
@@ -26,12 +26,18 @@ class NodeAdder {
         node.text = node.caption;
         return add(std::move(node));
     }
-    CtrlNode& named(const QString& caption, const QString& value = QString())
+    // A node whose caption is a name of its own (an input, a channel).
+    CtrlNode& named(const QString& caption)
     {
         CtrlNode node;
-        node.english = node.caption = caption;
-        node.text = value.isNull() ? caption : NodeText(caption, value);
+        node.english = node.caption = node.text = caption;
         return add(std::move(node));
+    }
+    CtrlNode& namedLeaf(const QString& caption, const QString& value)
+    {
+        CtrlNode& node = named(caption);
+        node.text = NodeText(caption, value);
+        return node;
     }
 
   private:
@@ -74,14 +80,14 @@ void addLa(NodeAdder add)
     const CtrlRecord& r = CtrlData;
     CtrlNode& display = add.action("Display");
     NodeAdder bits(display, display.row);
-    bits.named("D15-D8", r.LaHighByte);
-    bits.named("D7-D0", r.LaLowByte);
+    bits.namedLeaf("D15-D8", r.LaHighByte);
+    bits.namedLeaf("D7-D0", r.LaLowByte);
     for (int bit = 15; bit >= 0; --bit)
-        bits.named(QStringLiteral("D%1").arg(bit), r.LaDisplay[bit + 1]);
+        bits.namedLeaf(QStringLiteral("D%1").arg(bit), r.LaDisplay[bit + 1]);
     CtrlNode& position = add.action("Position");
     NodeAdder positions(position, position.row);
     for (int bit = 15; bit >= 0; --bit)
-        positions.named(QStringLiteral("D%1").arg(bit), r.LaPosition[bit + 1]);
+        positions.namedLeaf(QStringLiteral("D%1").arg(bit), r.LaPosition[bit + 1]);
     add.leaf("Threshold", r.LaThreshold);
     add.action("Reset");
 }
@@ -113,7 +119,7 @@ void addCodeGroup(NodeAdder add, const QString* codes, const QString& summary)
     if (!summary.isEmpty()) code.text = NodeText(code.caption, summary);
     NodeAdder rows(code, code.row);
     for (const char* input : {"CH1", "CH2", "CH3", "CH4", "EXT", "EXT/5"})
-        rows.named(QString::fromLatin1(input), *codes++);
+        rows.namedLeaf(QString::fromLatin1(input), *codes++);
 }
 
 void addPatternLevels(NodeAdder add)
@@ -121,8 +127,8 @@ void addPatternLevels(NodeAdder add)
     CtrlNode& level = add.action("Level");
     NodeAdder rows(level, level.row);
     for (int n = 0; n < 4; ++n)
-        rows.named(QStringLiteral("CH%1").arg(n + 1), CtrlData.PatternLevel[n]);
-    rows.named(CtrlData.PatternExtIsDiv5 ? QStringLiteral("EXT/5") : QStringLiteral("EXT"),
+        rows.namedLeaf(QStringLiteral("CH%1").arg(n + 1), CtrlData.PatternLevel[n]);
+    rows.namedLeaf(CtrlData.PatternExtIsDiv5 ? QStringLiteral("EXT/5") : QStringLiteral("EXT"),
                CtrlData.PatternLevel[4]);
 }
 
@@ -147,7 +153,7 @@ void addAltWindow(NodeAdder add, const QString& source, const QString& type, int
         c.leaf("Sensitivity", v.Sensitivity), c.leaf("Holdoff", v.Holdoff);
     } else if (isType(type, "SLOPE")) {
         const AltSlopeFields& s = r.AltSlope[w];
-        c.leaf("Slope mode", s.Mode, WordSense::SlopeMode), c.leaf("Slope time", s.Time);
+        c.leaf("Slope mode", s.Mode), c.leaf("Slope time", s.Time);
         c.leaf("Coupling", s.Coupling), c.leaf("LevelA", s.LevelA), c.leaf("LevelB", s.LevelB);
         c.leaf("Sensitivity", s.Sensitivity), c.leaf("Holdoff", s.Holdoff);
     }
@@ -175,7 +181,7 @@ void addTrigger(NodeAdder add)
         add.leaf("Coupling", r.PulseCoupling), add.leaf("HF", r.PulseHf);
         addLevelTail(add, r.PulseLevel, r.PulseSensitivity);
     } else if (isType(r.TrigMethod, "SLOPE")) {
-        add.leaf("Source", r.SlopeSource), add.leaf("Slope mode", r.SlopeMode, WordSense::SlopeMode);
+        add.leaf("Source", r.SlopeSource), add.leaf("Slope mode", r.SlopeMode);
         add.leaf("Slope time", r.SlopeTime), add.leaf("Mode", r.SlopeSweep);
         // The HF slot shows the coupling again for this type.
         add.leaf("Coupling", r.SlopeCoupling), add.leaf("Coupling", r.SlopeCoupling);
