@@ -21,11 +21,11 @@ QString RuleMessage(int code)
     }
 }
 
-bool CtrlChangesHandled()
+bool CtrlChangesHandled(const std::function<void()>& save)
 {
     if (!CtrlDirty) return true;
     const int answer = MsgBox(CtrlFileName + MsgSaveCtrl, vbYesNoCancel + vbQuestion);
-    if (answer == vbYes) SaveCtrlRecord(false);
+    if (answer == vbYes) save();
     return answer != vbCancel;
 }
 

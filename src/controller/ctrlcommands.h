@@ -3,14 +3,15 @@
 // New, the open and save dialogs, and the controller's own short texts.
 
 #include <QString>
+#include <functional>
 
 // One text in the language in force.
 QString CtrlText(const char16_t* english, const char16_t* chinese);
 // The rule messages by code: 1 trigger, 2 horizontal, 3 firmware, others "Can't be used.".
 QString RuleMessage(int code);
 
-// The Yes/No/Cancel question when CtrlDirty; Yes saves first. false: Cancel.
-bool CtrlChangesHandled();
+// The Yes/No/Cancel question when CtrlDirty; Yes runs save first. false: Cancel.
+bool CtrlChangesHandled(const std::function<void()>& save);
 // CtrlData to the New defaults, no file, nothing unsaved.
 void NewCtrlRecordInUse();
 // The path the open dialog gives; empty when cancelled.

@@ -129,7 +129,7 @@ void addPatternLevels(NodeAdder add)
     for (int n = 0; n < 4; ++n)
         rows.namedLeaf(QStringLiteral("CH%1").arg(n + 1), CtrlData.PatternLevel[n]);
     rows.namedLeaf(CtrlData.PatternExtIsDiv5 ? QStringLiteral("EXT/5") : QStringLiteral("EXT"),
-               CtrlData.PatternLevel[4]);
+                   CtrlData.PatternLevel[4]);
 }
 
 void addAltWindow(NodeAdder add, const QString& source, const QString& type, int w)

@@ -226,7 +226,7 @@ void frmCtrlList::mnuExpand_Click()
 
 void frmCtrlList::mnuNewCtrl_Click()
 {
-    if (!CtrlChangesHandled()) return;
+    if (!CtrlChangesHandled([this] { mnuSaveCtrl_Click(); })) return;
     NewCtrlRecordInUse();
     RebuildTree();
     CtrlTreeView->topLevelItem(0)->setExpanded(true);
@@ -234,7 +234,7 @@ void frmCtrlList::mnuNewCtrl_Click()
 
 void frmCtrlList::OpenCtrl(const QString& path)
 {
-    if (!CtrlChangesHandled()) return;
+    if (!CtrlChangesHandled([this] { mnuSaveCtrl_Click(); })) return;
     CtrlFileName = path;
     ReadCtrlFile(path);
     CtrlDirty = false;
@@ -249,7 +249,7 @@ void frmCtrlList::OpenCtrl(const QString& path)
 
 void frmCtrlList::mnuOpenCtrl_Click()
 {
-    if (!CtrlChangesHandled()) return;
+    if (!CtrlChangesHandled([this] { mnuSaveCtrl_Click(); })) return;
     const QString path = AskOpenCtrlPath();
     if (path.isEmpty()) return;
     CtrlDirty = false; // the question was answered already

@@ -53,11 +53,13 @@ TEST_F(CtrlFileTest, GoldenFileReadsIntoItsFieldsAndWritesBackByteForByte)
     ASSERT_TRUE(ReadCtrlFile(golden));
     const CtrlRecord& r = CtrlData;
     const std::pair<QString, QString> fields[] = {
-        {r.RunStop, "RUN"},           {r.ChProbe[1], "1X"},          {r.ChOffset[2], "-2.00V"},
-        {r.ChDisplay[2], "ON"},       {r.Spare1, "spare one"},       {r.TimeDiv, "500.0us"},
-        {r.MemorySize, "8000"},       {r.TimeFormat, "Y-T"},         {r.TrigMethod, "PATTERN"},
-        {r.EdgeSource, "CHANNEL1"},   {r.PulseWidth, "1.00us"},      {r.AltSourceB, "CH4"},
-        {r.AltChannel, "CH1CH2"},     {r.PatternLevel[4], "-1.25div"},
+        {r.RunStop, "RUN"},        {r.ChProbe[1], "1X"},
+        {r.ChOffset[2], "-2.00V"}, {r.ChDisplay[2], "ON"},
+        {r.Spare1, "spare one"},   {r.TimeDiv, "500.0us"},
+        {r.MemorySize, "8000"},    {r.TimeFormat, "Y-T"},
+        {r.TrigMethod, "PATTERN"}, {r.EdgeSource, "CHANNEL1"},
+        {r.PulseWidth, "1.00us"},  {r.AltSourceB, "CH4"},
+        {r.AltChannel, "CH1CH2"},  {r.PatternLevel[4], "-1.25div"},
     };
     for (const auto& [value, expected] : fields)
         EXPECT_EQ(value, expected);
@@ -135,7 +137,8 @@ TEST_F(CtrlFileTest, FailedSaveLeavesTheOldFileWhole)
     const QString target = folder + "/keep.rmt";
     writeBytes(target, "old");
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
-    if (QFile(folder + "/probe").open(QIODevice::WriteOnly)) GTEST_SKIP() << "running with rights to every folder";
+    if (QFile(folder + "/probe").open(QIODevice::WriteOnly))
+        GTEST_SKIP() << "running with rights to every folder";
 
     EXPECT_FALSE(WriteCtrlFile(target));
     EXPECT_EQ(bytesOf(target), "old");

@@ -55,7 +55,8 @@ class CtrlTreeTest : public ::testing::Test {
 
 TEST_F(CtrlTreeTest, TriggerLayoutsOfEveryTypeInBothLanguages)
 {
-    for (const auto& [language, name] : {std::pair{LanguageEnglish, "english"}, {LanguageChinese, "chinese"}}) {
+    for (const auto& [language, name] :
+         {std::pair{LanguageEnglish, "english"}, {LanguageChinese, "chinese"}}) {
         QFile file(QStringLiteral(SELVANE_TEST_DATA "/controller/data/layouts_%1.txt").arg(name));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text)) << name;
         const QStringList expected = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);

@@ -23,10 +23,8 @@ TEST_F(PatternTest, WireTextFromCodes)
         const char* expected;
     };
     const Case cases[] = {
-        {{0, 0, 0, 0, 0}, false, "0,0,0"},
-        {{1, 2, 0, 0, 0}, false, "1,3,0"},
-        {{0, 0, 3, 0, 0}, false, "0,4,0,2,1"},
-        {{0, 4, 0, 0, 1}, true, "16,18,1,1,0"},
+        {{0, 0, 0, 0, 0}, false, "0,0,0"},     {{1, 2, 0, 0, 0}, false, "1,3,0"},
+        {{0, 0, 3, 0, 0}, false, "0,4,0,2,1"}, {{0, 4, 0, 0, 1}, true, "16,18,1,1,0"},
         {{3, 0, 0, 4, 0}, false, "0,9,0,0,1"}, // the first edge is the edge term
     };
     for (const Case& c : cases)
