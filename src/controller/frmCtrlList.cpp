@@ -80,6 +80,8 @@ frmCtrlList::frmCtrlList(QWidget* parent) : QWidget(parent)
         RebuildTree();
         RestoreTreeExpansion();
     });
+    // The pane opens on a new control file, its words in the language in force.
+    ResetCtrlState();
     RebuildTree();
 }
 
