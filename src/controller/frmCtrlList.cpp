@@ -61,6 +61,9 @@ frmCtrlList::frmCtrlList(QWidget* parent) : QWidget(parent)
     cmdDownload = new QPushButton(this);
     cmdDownload->setObjectName("cmdDownload");
     cmdDownload->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+    rootIcon = style()->standardIcon(QStyle::SP_ComputerIcon);
+    groupIcon = style()->standardIcon(QStyle::SP_DirIcon);
+    leafIcon = style()->standardIcon(QStyle::SP_FileIcon);
     CtrlTreeView = new QTreeWidget(this);
     CtrlTreeView->setObjectName("CtrlTreeView");
     CtrlTreeView->header()->hide();
@@ -132,7 +135,7 @@ void frmCtrlList::addItems(QTreeWidgetItem* parent, const CtrlNode& node)
     auto* item = new QTreeWidgetItem(parent, {node.text});
     item->setData(0, Qt::UserRole, node.english);
     const bool branch = !node.children.empty() || node.row == 0;
-    item->setIcon(0, style()->standardIcon(branch ? QStyle::SP_DirIcon : QStyle::SP_FileIcon));
+    item->setIcon(0, branch ? groupIcon : leafIcon);
     NodeTable[size_t(node.row)][size_t(node.column)] = item;
     for (const CtrlNode& child : node.children)
         addItems(item, child);
@@ -144,7 +147,7 @@ void frmCtrlList::RebuildTree()
     NodeTable = {};
     const CtrlNode root = BuildCtrlTree();
     auto* top = new QTreeWidgetItem(CtrlTreeView, {root.text});
-    top->setIcon(0, style()->standardIcon(QStyle::SP_ComputerIcon));
+    top->setIcon(0, rootIcon);
     for (const CtrlNode& group : root.children)
         addItems(top, group);
 }

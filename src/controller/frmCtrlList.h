@@ -2,6 +2,7 @@
 // The controller pane: the tree of the instrument's settings with the control
 // file commands, Upload and Download.
 
+#include <QIcon>
 #include <QWidget>
 #include <array>
 
@@ -64,6 +65,7 @@ class frmCtrlList : public QWidget {
     QPushButton* cmdDownload = nullptr;
     QTreeWidget* CtrlTreeView = nullptr;
     QMenu* popmenu1 = nullptr;
+    QIcon rootIcon, groupIcon, leafIcon;
     std::array<std::array<QTreeWidgetItem*, 32>, 32> NodeTable{};
     std::array<bool, 12> expansion{};
     QString selectedPath;
