@@ -5,11 +5,13 @@
 #include "controller/ctrltree.h"
 #include "controller/download.h"
 #include "controller/frmCtrlList.h"
+#include "controller/frmPatternDlg.h"
 #include "link/linkstate.h"
 #include "platform/testplatform.h"
 #include "state/programstate.h"
 #include "text/treewords.h"
 
+#include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
@@ -107,6 +109,29 @@ TEST_F(CtrlListTest, FileCommandsAskBeforeLosingChanges)
     EXPECT_EQ(CtrlData.TimeDiv, "2.000ms");
     EXPECT_EQ(list.node(2, GroupTimeBase)->text(0), "Time/Div [2.000ms]");
     EXPECT_EQ(named, QStringList({path, path})) << "saved, then opened";
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(CtrlListTest, PatternDialogKeepsOneEdgeAndFillsTheRecord)
+{
+    PatternDlg dialog;
+    QString summary;
+    QObject::connect(&dialog, &PatternDlg::codeChanged, [&summary](const QString& text) { summary = text; });
+    dialog.PresetPattern({1, 3, 0, 2, 0}, false);
+    dialog.findChild<QRadioButton*>("Down_3")->click();
+    dialog.findChild<QRadioButton*>("optExt5")->click();
+    PatternCodes codes{};
+    bool div5 = false;
+    dialog.GetPattern(codes, div5);
+    EXPECT_EQ(codes, (PatternCodes{1, 0, 0, 4, 0})) << "the edge on CH2 gave way";
+    EXPECT_TRUE(div5);
+
+    dialog.cmdOK_Click();
+    EXPECT_EQ(BuildPatternString(), "1,9,1,3,0");
+    EXPECT_EQ(summary, "X5DnXXH");
 }
 
 } // namespace
