@@ -12,23 +12,7 @@ for p in "$build/tools/selvane-ctrlshot" "$build/sim/kv7200b-sim"; do
 done
 command -v xvfb-run >/dev/null || { echo "xvfb-run is missing (apt-get install xvfb xauth)" >&2; exit 1; }
 
-work="$(mktemp -d)"
-sim_pid=""
-cleanup() {
-    [ -n "$sim_pid" ] && kill "$sim_pid" 2>/dev/null && wait "$sim_pid" 2>/dev/null
-    rm -rf "$work"
-}
-trap cleanup EXIT
-
-"$build/sim/kv7200b-sim" --hislip-port 0 --socket-port off --vxi11-port off --portmapper-port off --pty off \
-    >"$work/sim.out" &
-sim_pid=$!
-for _ in $(seq 100); do
-    grep -qx ready "$work/sim.out" && break
-    sleep 0.1
-done
-grep -qx ready "$work/sim.out" || { echo "kv7200b-sim did not start" >&2; exit 1; }
-port="$(awk '$1 == "hislip" { print $3 }' "$work/sim.out")"
+source tools/simstart.sh
 
 for language in english chinese; do
     rm -rf "$work/config"

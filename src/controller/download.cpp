@@ -34,6 +34,12 @@ void askTicked(const QString& query, QString& field, QString (*convert)(const QS
     tick();
 }
 
+// A reply table's conversion into the words of the language in force.
+template <QString (*convert)(const QString&, int)> QString inLanguage(const QString& reply)
+{
+    return convert(reply, Language);
+}
+
 QString asIs(const QString& reply)
 {
     return reply;
@@ -41,46 +47,6 @@ QString asIs(const QString& reply)
 QString sensitivityText(const QString& reply)
 {
     return FormatMask(Val(reply), QStringLiteral("#0.00")) + QStringLiteral("div");
-}
-QString runState(const QString& r)
-{
-    return RunStateFromReply(r);
-}
-QString onOff(const QString& r)
-{
-    return OnOffFromReply(r);
-}
-QString coupling(const QString& r)
-{
-    return CouplingFromReply(r);
-}
-QString sweep(const QString& r)
-{
-    return SweepFromReply(r);
-}
-QString triggerType(const QString& r)
-{
-    return TriggerTypeFromReply(r);
-}
-QString edgeSlope(const QString& r)
-{
-    return EdgeSlopeFromReply(r);
-}
-QString pulseMode(const QString& r)
-{
-    return PulseModeFromReply(r);
-}
-QString polarity(const QString& r)
-{
-    return VideoPolarityFromReply(r);
-}
-QString videoSync(const QString& r)
-{
-    return VideoSyncFromReply(r);
-}
-QString source(const QString& r)
-{
-    return TriggerSourceFromReply(r);
 }
 
 // The scale a trigger source's level is divided by, into scale; false for a
@@ -118,36 +84,36 @@ void downloadChannels()
         askTicked(channel + "PROBE?", CtrlData.ChProbe[n], asIs);
         askTicked(channel + "SCALE?", CtrlData.ChVoltDiv[n], VoltText3);
         askTicked(channel + "OFFSET?", CtrlData.ChOffset[n], VoltText3);
-        askTicked(channel + "COUPLING?", CtrlData.ChCoupling[n], coupling);
-        askTicked(channel + "BWLIMIT?", CtrlData.ChBwLimit[n], onOff);
-        askTicked(channel + "DISPLAY?", CtrlData.ChDisplay[n], onOff);
+        askTicked(channel + "COUPLING?", CtrlData.ChCoupling[n], inLanguage<CouplingFromReply>);
+        askTicked(channel + "BWLIMIT?", CtrlData.ChBwLimit[n], inLanguage<OnOffFromReply>);
+        askTicked(channel + "DISPLAY?", CtrlData.ChDisplay[n], inLanguage<OnOffFromReply>);
     }
 }
 
 void downloadPlainTriggers(QString& scale)
 {
     CtrlRecord& r = CtrlData;
-    askTicked(":TRIGGER:MODE?", r.TrigMethod, triggerType);
+    askTicked(":TRIGGER:MODE?", r.TrigMethod, inLanguage<TriggerTypeFromReply>);
     askTicked(":TRIGGER:HOLDOFF?", r.Holdoff, TimeText3);
-    askTicked(":TRIGGER:EDGE:SOURCE?", r.EdgeSource, source);
+    askTicked(":TRIGGER:EDGE:SOURCE?", r.EdgeSource, inLanguage<TriggerSourceFromReply>);
     bool hasScale = askSourceScale(r.EdgeSource, scale);
-    askTicked(":TRIGGER:EDGE:SLOPE?", r.EdgeSlope, edgeSlope);
-    askTicked(":TRIGGER:EDGE:SWEEP?", r.EdgeSweep, sweep);
-    askTicked(":TRIGGER:COUPLING?", r.EdgeCoupling, coupling);
+    askTicked(":TRIGGER:EDGE:SLOPE?", r.EdgeSlope, inLanguage<EdgeSlopeFromReply>);
+    askTicked(":TRIGGER:EDGE:SWEEP?", r.EdgeSweep, inLanguage<SweepFromReply>);
+    askTicked(":TRIGGER:COUPLING?", r.EdgeCoupling, inLanguage<CouplingFromReply>);
     askLevel(":TRIGGER:EDGE:LEVEL?", hasScale, scale, r.EdgeLevel);
     askTicked(":TRIGGER:SENSITIVITY?", r.EdgeSensitivity, sensitivityText);
     askTicked(":TRIGGER:PULSE:SOURCE?", r.PulseSource, asIs);
     hasScale = askSourceScale(r.PulseSource, scale);
-    askTicked(":TRIGGER:PULSE:MODE?", r.PulseMode, pulseMode);
+    askTicked(":TRIGGER:PULSE:MODE?", r.PulseMode, inLanguage<PulseModeFromReply>);
     askTicked(":TRIGGER:PULSE:WIDTH?", r.PulseWidth, TimeText3);
-    askTicked(":TRIGGER:PULSE:SWEEP?", r.PulseSweep, sweep);
-    askTicked(":TRIGGER:COUPLING?", r.PulseCoupling, coupling);
+    askTicked(":TRIGGER:PULSE:SWEEP?", r.PulseSweep, inLanguage<SweepFromReply>);
+    askTicked(":TRIGGER:COUPLING?", r.PulseCoupling, inLanguage<CouplingFromReply>);
     askLevel(":TRIGGER:PULSE:LEVEL?", hasScale, scale, r.PulseLevel);
     askTicked(":TRIGGER:SENSITIVITY?", r.PulseSensitivity, sensitivityText);
     askTicked(":TRIGGER:VIDEO:SOURCE?", r.VideoSource, asIs);
     askSourceScale(r.VideoSource, scale);
-    askTicked(":TRIGGER:VIDEO:POLARITY?", r.VideoPolarity, polarity);
-    askTicked(":TRIGGER:VIDEO:MODE?", r.VideoSync, videoSync);
+    askTicked(":TRIGGER:VIDEO:POLARITY?", r.VideoPolarity, inLanguage<VideoPolarityFromReply>);
+    askTicked(":TRIGGER:VIDEO:MODE?", r.VideoSync, inLanguage<VideoSyncFromReply>);
     askTicked(":TRIGGER:VIDEO:LINE?", r.VideoLine, asIs);
     askTicked(":TRIGGER:VIDEO:STANDARD?", r.VideoStandard, asIs);
     r.VideoLevel = LevelDivText(ask(":TRIGGER:VIDEO:LEVEL?"), scale);
@@ -166,21 +132,21 @@ void downloadAltWindow(int w, QString& type, const QString& scale)
 {
     type = TriggerTypeFromReply(ask(":TRIGGER:ALTERNATION:TYPE?"));
     AltEdgeFields& e = CtrlData.AltEdge[w];
-    askAlt(":EDGE:SLOPE?", e.Slope, scale, false, edgeSlope);
-    askAlt(":COUPLING?", e.Coupling, scale, false, coupling);
+    askAlt(":EDGE:SLOPE?", e.Slope, scale, false, inLanguage<EdgeSlopeFromReply>);
+    askAlt(":COUPLING?", e.Coupling, scale, false, inLanguage<CouplingFromReply>);
     askAlt(":LEVEL?", e.Level, scale, true, asIs);
     askAlt(":HOLDOFF?", e.Holdoff, scale, false, TimeText3);
     askAlt(":SENSITIVITY?", e.Sensitivity, scale, false, sensitivityText);
     AltPulseFields& p = CtrlData.AltPulse[w];
-    askAlt(":PULSE:MODE?", p.Mode, scale, false, pulseMode);
+    askAlt(":PULSE:MODE?", p.Mode, scale, false, inLanguage<PulseModeFromReply>);
     askAlt(":PULSE:TIME?", p.Width, scale, false, TimeText3);
-    askAlt(":COUPLING?", p.Coupling, scale, false, coupling);
+    askAlt(":COUPLING?", p.Coupling, scale, false, inLanguage<CouplingFromReply>);
     askAlt(":LEVEL?", p.Level, scale, true, asIs);
     askAlt(":HOLDOFF?", p.Holdoff, scale, false, TimeText3);
     askAlt(":SENSITIVITY?", p.Sensitivity, scale, false, sensitivityText);
     AltVideoFields& v = CtrlData.AltVideo[w];
-    askAlt(":VIDEO:POLARITY?", v.Polarity, scale, false, polarity);
-    askAlt(":VIDEO:MODE?", v.Sync, scale, false, videoSync);
+    askAlt(":VIDEO:POLARITY?", v.Polarity, scale, false, inLanguage<VideoPolarityFromReply>);
+    askAlt(":VIDEO:MODE?", v.Sync, scale, false, inLanguage<VideoSyncFromReply>);
     askAlt(":VIDEO:LINE?", v.Line, scale, false, asIs);
     askAlt(":VIDEO:STANDARD?", v.Standard, scale, false, asIs);
     askAlt(":LEVEL?", v.Level, scale, true, asIs);
@@ -246,32 +212,15 @@ void downloadPattern()
     r.PatternSensitivity = sensitivityText(ask(":TRIGGER:SENSITIVITY?"));
 }
 
-QString sampling(const QString& r)
-{
-    return SamplingFromReply(r);
-}
-QString acquisition(const QString& r)
-{
-    return AcquisitionFromReply(r);
-}
-QString displayType(const QString& r)
-{
-    return DisplayTypeFromReply(r);
-}
-QString grid(const QString& r)
-{
-    return GridFromReply(r);
-}
-
 void downloadAcquireDisplay()
 {
     CtrlRecord& r = CtrlData;
-    askTicked(":ACQUIRE:MODE?", r.AcqMode, sampling);
-    askTicked(":ACQUIRE:TYPE?", r.AcqType, acquisition);
+    askTicked(":ACQUIRE:MODE?", r.AcqMode, inLanguage<SamplingFromReply>);
+    askTicked(":ACQUIRE:TYPE?", r.AcqType, inLanguage<AcquisitionFromReply>);
     askTicked(":ACQUIRE:AVERAGES?", r.AcqAverages, asIs);
-    askTicked(":DISPLAY:TYPE?", r.DisplayType, displayType);
-    askTicked(":DISPLAY:PERSIST?", r.DisplayPersist, onOff);
-    askTicked(":DISPLAY:GRID?", r.DisplayGrid, grid);
+    askTicked(":DISPLAY:TYPE?", r.DisplayType, inLanguage<DisplayTypeFromReply>);
+    askTicked(":DISPLAY:PERSIST?", r.DisplayPersist, inLanguage<OnOffFromReply>);
+    askTicked(":DISPLAY:GRID?", r.DisplayGrid, inLanguage<GridFromReply>);
 }
 
 } // namespace
@@ -286,7 +235,7 @@ bool DownloadTransfer()
 {
     tickStep = 100.0 / (HasLa ? 76 : 66);
     CtrlRecord& r = CtrlData;
-    askTicked(":TRIGGER:STATUS?", r.RunStop, runState);
+    askTicked(":TRIGGER:STATUS?", r.RunStop, inLanguage<RunStateFromReply>);
     askTicked(":TIMEBASE:FORMAT?", r.TimeFormat, TimeFormatFromReply);
     askTicked(":TIMEBASE:SCALE?", r.TimeDiv, TimeText4);
     askTicked(":TIMEBASE:OFFSET?", r.TimeDelay, TimeText4);
