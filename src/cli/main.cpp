@@ -17,6 +17,8 @@ constexpr Subcommand subcommands[] = {
     {"idn", "Connect to the instrument and print its identity.", RunIdnCommand},
     {"wave", "Read one wave window snapshot and write its picture.", RunWaveCommand},
     {"table", "Read one channel as a data table and write its export text.", RunTableCommand},
+    {"measure", "Read one channel's measurements, judge them against limits and write the export.",
+     RunMeasureCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)

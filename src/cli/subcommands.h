@@ -11,3 +11,7 @@ int RunIdnCommand(const QStringList& arguments);
 int RunWaveCommand(const QStringList& arguments);
 // Reads one channel as a data table and writes its export text (--out FILE.txt).
 int RunTableCommand(const QStringList& arguments);
+// Reads one channel's eighteen measurements, judges the limited ones and writes
+// the export (--out FILE.txt). 0 when every limited item passes, 1 when one
+// fails, 2 on a usage, link or file error.
+int RunMeasureCommand(const QStringList& arguments);
