@@ -12,6 +12,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QPushButton>
@@ -94,6 +95,7 @@ TEST_F(AnalysisWindowTest, RefreshWithoutALinkAsksForOne)
 TEST_F(AnalysisWindowTest, DataTableNumbersRowsFromOneAndAddsThePeakColumn)
 {
     frmData* window = CreateDataWindow(&area, 1);
+    QCoreApplication::processEvents();
     auto* view = control<QTreeWidget>(window, "MeasureView");
     EXPECT_EQ(view->topLevelItemCount(), 1000);
     EXPECT_EQ(view->columnCount(), 3);
@@ -132,9 +134,12 @@ class PassFailedTest : public AnalysisWindowTest {
         enabled = control<QCheckBox>(dialog.get(), "EnabledChk");
     }
     const MeasureItem& item(int slot) const { return dialog->copy().Items[size_t(slot)]; }
+    // Enables the selected item and puts both its limits in volts.
     void enableSelected()
     {
         if (!enabled->isChecked()) enabled->click();
+        control<QComboBox>(dialog.get(), "UnderUnit")->setCurrentText("V");
+        control<QComboBox>(dialog.get(), "OverUnit")->setCurrentText("V");
     }
 
     std::unique_ptr<frmPassFailed> dialog;
