@@ -16,7 +16,7 @@
 
 namespace {
 
-std::array<QPointer<frmData>, DataRecordCount> DataForms;
+TableWindowBase::WindowTable DataForms;
 
 constexpr int EmptyRows = 1000;
 
@@ -40,26 +40,12 @@ QString cell(const DataColumn& column, int index)
 
 } // namespace
 
-frmData::frmData(int slot, QWidget* parent) : TableWindowBase(validSlot(slot) ? slot : 0, parent)
+frmData::frmData(int slot, QWidget* parent) : TableWindowBase(slot, DataForms, parent)
 {
     setObjectName(QStringLiteral("frmData"));
-    DataForms[size_t(slot_)] = this;
     SetCaptions(Language);
     ShowEmptyTable();
     resize(460, 430);
-}
-
-frmData::~frmData()
-{
-    if (DataForms[size_t(slot_)] == this) DataForms[size_t(slot_)] = nullptr;
-}
-
-void frmData::setSlot(int slot)
-{
-    if (!validSlot(slot) || slot == slot_) return;
-    if (DataForms[size_t(slot_)] == this) DataForms[size_t(slot_)] = nullptr;
-    slot_ = slot;
-    DataForms[size_t(slot_)] = this;
 }
 
 DataRecord& frmData::record() const
@@ -148,14 +134,10 @@ void frmData::cmdExport_Click()
 
 frmData* CreateDataWindow(QMdiArea* area, int slot)
 {
-    if (!area || !validSlot(slot)) return nullptr;
-    auto* window = new frmData(slot);
-    area->addSubWindow(window);
-    window->show();
-    return window;
+    return CreateTableWindow<frmData>(area, slot);
 }
 
 frmData* DataWindowOf(int slot)
 {
-    return validSlot(slot) ? DataForms[size_t(slot)].data() : nullptr;
+    return validSlot(slot) ? static_cast<frmData*>(DataForms[size_t(slot)].data()) : nullptr;
 }

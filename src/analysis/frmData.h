@@ -12,8 +12,6 @@ class frmData : public TableWindowBase {
     Q_OBJECT
   public:
     explicit frmData(int slot, QWidget* parent = nullptr);
-    ~frmData() override;
-    void setSlot(int slot) override;
 
     void SetCaptions(int language);
     void ShowTable();

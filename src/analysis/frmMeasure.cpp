@@ -12,8 +12,8 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPainter>
@@ -23,7 +23,7 @@
 
 namespace {
 
-std::array<QPointer<frmMeasure>, MeasureRecordCount> MeasureForms;
+TableWindowBase::WindowTable MeasureForms;
 
 constexpr int ColumnCount = 5;
 constexpr int ViewMargin = 200;
@@ -51,7 +51,7 @@ QStringList headers(int language)
 
 } // namespace
 
-frmMeasure::frmMeasure(int slot, QWidget* parent) : TableWindowBase(validSlot(slot) ? slot : 0, parent)
+frmMeasure::frmMeasure(int slot, QWidget* parent) : TableWindowBase(slot, MeasureForms, parent)
 {
     setObjectName(QStringLiteral("frmMeasure"));
     cmdPassFailed = new QPushButton(this);
@@ -66,23 +66,9 @@ frmMeasure::frmMeasure(int slot, QWidget* parent) : TableWindowBase(validSlot(sl
     combUnit->hide();
     MeasureView->setColumnCount(ColumnCount);
     connect(cmdPassFailed, &QPushButton::clicked, this, &frmMeasure::cmdPassFailed_Click);
-    MeasureForms[size_t(slot_)] = this;
     SetCaptions(Language);
     showEmptyList();
     resize(560, 430);
-}
-
-frmMeasure::~frmMeasure()
-{
-    if (MeasureForms[size_t(slot_)] == this) MeasureForms[size_t(slot_)] = nullptr;
-}
-
-void frmMeasure::setSlot(int slot)
-{
-    if (!validSlot(slot) || slot == slot_) return;
-    if (MeasureForms[size_t(slot_)] == this) MeasureForms[size_t(slot_)] = nullptr;
-    slot_ = slot;
-    MeasureForms[size_t(slot_)] = this;
 }
 
 MeasureRecord& frmMeasure::record() const
@@ -194,14 +180,10 @@ void frmMeasure::cmdPassFailed_Click()
 
 frmMeasure* CreateMeasureWindow(QMdiArea* area, int slot)
 {
-    if (!area || !validSlot(slot)) return nullptr;
-    auto* window = new frmMeasure(slot);
-    area->addSubWindow(window);
-    window->show();
-    return window;
+    return CreateTableWindow<frmMeasure>(area, slot);
 }
 
 frmMeasure* MeasureWindowOf(int slot)
 {
-    return validSlot(slot) ? MeasureForms[size_t(slot)].data() : nullptr;
+    return validSlot(slot) ? static_cast<frmMeasure*>(MeasureForms[size_t(slot)].data()) : nullptr;
 }

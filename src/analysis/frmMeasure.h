@@ -14,8 +14,6 @@ class frmMeasure : public TableWindowBase {
     Q_OBJECT
   public:
     explicit frmMeasure(int slot, QWidget* parent = nullptr);
-    ~frmMeasure() override;
-    void setSlot(int slot) override;
 
     void SetCaptions(int language);
     void LoadMeasure();

@@ -12,7 +12,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -25,20 +24,7 @@ constexpr int FollowIntervalMs = 500;
 
 QIcon refreshIcon(bool stop)
 {
-    QPixmap image(16, 16);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color(0, 128, 255);
-    painter.setPen(QPen(color, 2));
-    if (stop) {
-        painter.fillRect(QRect(4, 4, 8, 8), color);
-    } else {
-        painter.drawArc(QRect(3, 3, 10, 10), 60 * 16, 280 * 16);
-        painter.setBrush(color);
-        painter.drawPolygon(QPolygon({QPoint(9, 0), QPoint(14, 3), QPoint(9, 6)}));
-    }
-    return QIcon(image);
+    return QIcon(RefreshButtonImage(stop, false));
 }
 
 template <typename T> T* named(T* control, const QString& name)
@@ -49,8 +35,10 @@ template <typename T> T* named(T* control, const QString& name)
 
 } // namespace
 
-TableWindowBase::TableWindowBase(int slot, QWidget* parent) : QWidget(parent), slot_(slot)
+TableWindowBase::TableWindowBase(int slot, WindowTable& forms, QWidget* parent)
+    : QWidget(parent), slot_(slot >= 0 && slot < SlotCount ? slot : 0), forms_(forms)
 {
+    forms_[size_t(slot_)] = this;
     setFocusPolicy(Qt::StrongFocus);
     cmdRefresh = named(new QPushButton(this), QStringLiteral("cmdRefresh"));
     cmdRefresh->setIcon(refreshIcon(false));
@@ -92,9 +80,17 @@ TableWindowBase::TableWindowBase(int slot, QWidget* parent) : QWidget(parent), s
     Timer1->start(0);
 }
 
+TableWindowBase::~TableWindowBase()
+{
+    if (forms_[size_t(slot_)] == this) forms_[size_t(slot_)] = nullptr;
+}
+
 void TableWindowBase::setSlot(int slot)
 {
+    if (slot < 0 || slot >= SlotCount || slot == slot_) return;
+    if (forms_[size_t(slot_)] == this) forms_[size_t(slot_)] = nullptr;
     slot_ = slot;
+    forms_[size_t(slot_)] = this;
 }
 
 void TableWindowBase::setButtonTexts(int language)

@@ -4,6 +4,8 @@
 // refresh and export buttons, the legend label, and the refresh loop with its
 // two timers. The window holds its slot number as its tag.
 
+#include <QMdiArea>
+#include <QPointer>
 #include <QWidget>
 #include <array>
 
@@ -18,9 +20,15 @@ class RefreshLoop;
 class TableWindowBase : public QWidget {
     Q_OBJECT
   public:
+    static constexpr int SlotCount = 18;
+    // The open windows of one kind by slot.
+    using WindowTable = std::array<QPointer<TableWindowBase>, SlotCount>;
+
+    ~TableWindowBase() override;
     int slot() const { return slot_; }
     QString tag() const { return QString::number(slot_); }
-    virtual void setSlot(int slot);
+    // The sheet renumbers a window when an earlier one goes; 0 to 17.
+    void setSlot(int slot);
 
     void cmdRefresh_Click();
     void Timer1_Timer();
@@ -29,7 +37,8 @@ class TableWindowBase : public QWidget {
     void selectChannel(int channel);
 
   protected:
-    TableWindowBase(int slot, QWidget* parent);
+    // The window enters forms at its slot (0 to 17, else 0).
+    TableWindowBase(int slot, WindowTable& forms, QWidget* parent);
 
     virtual void LoadData() = 0;
     virtual void cmdExport_Click() = 0;
@@ -57,5 +66,17 @@ class TableWindowBase : public QWidget {
 
   private:
     void followDisplaySwitches();
+    WindowTable& forms_;
     bool firstRun_ = true;
 };
+
+// Creates a window of the kind for a slot inside area and shows it; null
+// without an area or for a slot out of range.
+template <typename Window> Window* CreateTableWindow(QMdiArea* area, int slot)
+{
+    if (!area || slot < 0 || slot >= TableWindowBase::SlotCount) return nullptr;
+    auto* window = new Window(slot);
+    area->addSubWindow(window);
+    window->show();
+    return window;
+}
