@@ -26,7 +26,11 @@ bool ExportTextFile(const QString& text, int language)
 {
     const QString path = SaveFileDialog(
         {ExportDialogTitle(language), QtFileFilter(ExportTextFilter(language)), QString(), QString()});
-    if (path.isEmpty()) return false;
+    return !path.isEmpty() && SaveExportFile(path, text);
+}
+
+bool SaveExportFile(const QString& path, const QString& text)
+{
     const QString error = WriteExportFile(path, text);
     if (error.isEmpty()) return true;
     MsgBox(error, vbCritical);

@@ -120,11 +120,7 @@ void frmData::LoadData()
 
 bool frmData::ExportDataFile(const QString& fileName, int slot)
 {
-    if (!validSlot(slot)) return false;
-    const QString error = WriteExportFile(fileName, DataExportText(DataRecords[size_t(slot)]));
-    if (error.isEmpty()) return true;
-    MsgBox(error, vbCritical);
-    return false;
+    return validSlot(slot) && SaveExportFile(fileName, DataExportText(DataRecords[size_t(slot)]));
 }
 
 void frmData::cmdExport_Click()

@@ -160,11 +160,7 @@ void frmMeasure::LoadMeasure()
 
 bool frmMeasure::ExportMeasureFileProc(const QString& fileName, int slot)
 {
-    if (!validSlot(slot)) return false;
-    const QString error = WriteExportFile(fileName, MeasureExportText(MeasureRecords[size_t(slot)]));
-    if (error.isEmpty()) return true;
-    MsgBox(error, vbCritical);
-    return false;
+    return validSlot(slot) && SaveExportFile(fileName, MeasureExportText(MeasureRecords[size_t(slot)]));
 }
 
 void frmMeasure::cmdExport_Click()
