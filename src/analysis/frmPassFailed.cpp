@@ -142,6 +142,7 @@ void frmPassFailed::SetCaptions(int language)
 
 void frmPassFailed::Timer1_Timer()
 {
+    Timer1->stop(); // once only, also when called before the timer fired
     SetCaptions(Language);
     Updating = true;
     Editing = true;

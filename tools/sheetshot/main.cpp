@@ -2,6 +2,7 @@
 // windows (or, with "analysis", a measure window with limits set and a data
 // window), Tools > Connect, Refresh in each, windows tiled; then saves a picture
 // of the main window. Used by tools/wave_screenshot.sh against the simulator.
+#include "analysis/frmPassFailed.h"
 #include "analysis/measurerecord.h"
 #include "controller/ctrlstate.h"
 #include "frame/frmMain.h"
@@ -13,6 +14,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
@@ -50,6 +52,19 @@ void addWindows(frmMain* window, bool analysis)
     trigger(window, analysis ? "AddNewMeasure" : "AddNewWaveform");
     trigger(window, analysis ? "AddNewData" : "AddNewWaveform");
     if (analysis) setMeasureLimits();
+}
+
+// The limits dialog of the measure window beside the sheet's picture (OUT-limits.png),
+// with Vmax selected.
+void saveLimitsDialog(frmMain* window, QString path)
+{
+    frmPassFailed dialog(0, QStringLiteral("Measure0"), window);
+    dialog.Timer1_Timer();
+    if (auto* type = dialog.findChild<QComboBox*>(QStringLiteral("MTypeCombo"))) type->setCurrentIndex(1);
+    dialog.show();
+    QApplication::processEvents();
+    path.replace(QStringLiteral(".png"), QStringLiteral("-limits.png"));
+    dialog.grab().save(path);
 }
 
 int finish(frmMain* window, const QString& path)
@@ -90,6 +105,7 @@ int main(int argc, char** argv)
             refreshEveryWaveWindow(window.get());
             QTimer::singleShot(300, window.get(), [&, analysis] {
                 status = finish(window.get(), path);
+                if (analysis) saveLimitsDialog(window.get(), path);
                 QApplication::exit(status);
             });
         });
