@@ -3,10 +3,10 @@
 
 #include "acquire/operation.h"
 #include "analysis/dataexport.h"
+#include "analysis/exportfile.h"
 #include "link/timeouttimer.h"
 
 #include <QCommandLineParser>
-#include <QSaveFile>
 #include <cstdio>
 
 namespace {
@@ -37,14 +37,6 @@ bool parseTableOptions(const QStringList& arguments, TableOptions& options)
     return false;
 }
 
-bool writeText(const QString& path, const QString& text)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return false;
-    file.write(text.toUtf8());
-    return file.commit();
-}
-
 } // namespace
 
 int RunTableCommand(const QStringList& arguments)
@@ -61,7 +53,7 @@ int RunTableCommand(const QStringList& arguments)
     record.Channel = options.channel;
     TakeTableReading(record);
     CloseLink();
-    if (writeText(options.out, DataExportText(record))) return 0;
+    if (WriteExportFile(options.out, DataExportText(record)).isEmpty()) return 0;
     std::fprintf(stderr, "table: can't write %s\n", qPrintable(options.out));
     return 1;
 }

@@ -13,3 +13,7 @@ int RunWaveCommand(const QStringList& arguments);
 int RunTableCommand(const QStringList& arguments);
 // Reads every setting of the instrument and writes a control file (--out FILE.rmt).
 int RunDownloadCommand(const QStringList& arguments);
+// Reads one channel's eighteen measurements, judges the limited ones and writes
+// the export (--out FILE.txt). 0 when every limited item passes, 1 when one
+// fails, 2 on a usage, link or file error.
+int RunMeasureCommand(const QStringList& arguments);

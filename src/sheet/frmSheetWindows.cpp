@@ -1,5 +1,7 @@
 #include "sheet/frmSheetWindows.h"
 
+#include "analysis/frmData.h"
+#include "analysis/frmMeasure.h"
 #include "wave/frmWave.h"
 
 #include <QMdiArea>
@@ -10,8 +12,8 @@ namespace {
 
 constexpr const char* tagProperty = "Tag";
 
-// Measure, data, memory wave and record windows start as empty frames of the
-// right name and size until their own windows land.
+// Memory wave and record windows start as empty frames of the right name and
+// size until their own windows land.
 QMdiSubWindow* makeEmptyWindow(QMdiArea* area, SheetKind kind)
 {
     auto* content = new QWidget;
@@ -20,10 +22,19 @@ QMdiSubWindow* makeEmptyWindow(QMdiArea* area, SheetKind kind)
     return area->addSubWindow(content);
 }
 
-QMdiSubWindow* makeWaveWindow(QMdiArea* area, int slot)
+QMdiSubWindow* frameOf(QWidget* window)
 {
-    frmWave* wave = CreateWaveWindow(area, slot);
-    return wave ? qobject_cast<QMdiSubWindow*>(wave->parentWidget()) : nullptr;
+    return window ? qobject_cast<QMdiSubWindow*>(window->parentWidget()) : nullptr;
+}
+
+QMdiSubWindow* makeWindow(QMdiArea* area, SheetKind kind, int slot)
+{
+    switch (kind) {
+    case SheetKind::Wave: return frameOf(CreateWaveWindow(area, slot));
+    case SheetKind::Measure: return frameOf(CreateMeasureWindow(area, slot));
+    case SheetKind::Data: return frameOf(CreateDataWindow(area, slot));
+    default: return makeEmptyWindow(area, kind);
+    }
 }
 
 } // namespace
@@ -31,8 +42,7 @@ QMdiSubWindow* makeWaveWindow(QMdiArea* area, int slot)
 QMdiSubWindow* CreateSheetWindow(QMdiArea* area, SheetKind kind, int slot, const QString& name)
 {
     if (!area) return nullptr;
-    QMdiSubWindow* window =
-        kind == SheetKind::Wave ? makeWaveWindow(area, slot) : makeEmptyWindow(area, kind);
+    QMdiSubWindow* window = makeWindow(area, kind, slot);
     if (!window) return nullptr;
     window->setAttribute(Qt::WA_DeleteOnClose);
     SetWindowTag(window, slot);
@@ -46,6 +56,8 @@ void SetWindowTag(QMdiSubWindow* window, int slot)
     if (!window || !window->widget()) return;
     if (auto* wave = qobject_cast<frmWave*>(window->widget()))
         wave->setSlot(slot);
+    else if (auto* table = qobject_cast<TableWindowBase*>(window->widget()))
+        table->setSlot(slot);
     else
         window->widget()->setProperty(tagProperty, QString::number(slot));
 }
@@ -54,6 +66,7 @@ int WindowTag(const QMdiSubWindow* window)
 {
     if (!window || !window->widget()) return -1;
     if (auto* wave = qobject_cast<const frmWave*>(window->widget())) return wave->slot();
+    if (auto* table = qobject_cast<const TableWindowBase*>(window->widget())) return table->slot();
     bool ok = false;
     const int slot = window->widget()->property(tagProperty).toString().toInt(&ok);
     return ok ? slot : -1;

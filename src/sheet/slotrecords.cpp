@@ -2,6 +2,7 @@
 
 #include "acquire/waverecord.h"
 #include "analysis/datarecord.h"
+#include "analysis/measurerecord.h"
 
 #include <algorithm>
 
@@ -16,14 +17,22 @@ template <typename T, size_t N> void shiftDown(std::array<T, N>& table, int slot
 
 } // namespace
 
-// The measure, memory wave and record tables join these as their windows land.
-void ClearSlotRecord(SheetKind, int) {}
+// The memory wave and record tables join these as their windows land.
+void ClearSlotRecord(SheetKind kind, int slot)
+{
+    switch (kind) {
+    case SheetKind::Measure: ClearMeasureSlot(slot); break;
+    case SheetKind::Data: ClearDataSlot(slot); break;
+    default: break;
+    }
+}
 
 void ShiftSlotRecords(SheetKind kind, int slot)
 {
     switch (kind) {
     case SheetKind::Wave: shiftDown(WaveRecords, slot); break;
     case SheetKind::Data: shiftDown(DataRecords, slot); break;
+    case SheetKind::Measure: shiftDown(MeasureRecords, slot); break;
     default: break;
     }
 }
@@ -31,4 +40,6 @@ void ShiftSlotRecords(SheetKind kind, int slot)
 void NameSlotRecord(SheetKind kind, int slot, const QString& name)
 {
     if (kind == SheetKind::Wave && slot >= 0 && slot < WaveRecordCount) WaveRecords[slot].WaveTitle = name;
+    if (kind == SheetKind::Measure && slot >= 0 && slot < MeasureRecordCount)
+        MeasureRecords[size_t(slot)].Title = name;
 }

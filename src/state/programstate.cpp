@@ -2,11 +2,12 @@
 
 #include "acquire/acquirereset.h"
 #include "analysis/datarecord.h"
+#include "analysis/measurerecord.h"
 #include "controller/ctrlstate.h"
 #include "frame/framestate.h"
-#include "text/language.h"
 #include "link/linkstate.h"
 #include "sheet/sheetstate.h"
+#include "text/language.h"
 #include "wave/fftsetting.h"
 #include "wave/waverefresh.h"
 
@@ -18,6 +19,7 @@ void ResetProgramState()
     ResetCtrlState();
     ResetAcquireState();
     ResetDataRecords();
+    ResetMeasureRecords();
     ResetLinkState();
     ResetWaveRefreshState();
     ResetFftPlaceholders();

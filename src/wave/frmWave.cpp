@@ -2,11 +2,12 @@
 
 #include "acquire/operation.h"
 #include "acquire/waverecord.h"
-#include "text/captionwidgets.h"
-#include "text/language.h"
 #include "link/linkstate.h"
 #include "sheet/sheetstate.h"
+#include "text/captionwidgets.h"
+#include "text/language.h"
 #include "wave/frmWavePicture.h"
+#include "wave/refreshloop.h"
 #include "wave/wavelayout.h"
 #include "wave/waverefresh.h"
 #include "wave/wavezoom.h"
@@ -20,7 +21,6 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
@@ -43,25 +43,6 @@ template <typename T> T* named(T* control, const char* name)
     return control;
 }
 
-// The images of the refresh button: a round arrow to refresh, a square to stop.
-QPixmap buttonImage(bool stop, bool down)
-{
-    QPixmap image(24, 24);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = down ? QColor(0, 96, 160) : QColor(0, 128, 255);
-    painter.setPen(QPen(color, 3));
-    if (stop) {
-        painter.fillRect(QRect(6, 6, 12, 12), color);
-    } else {
-        painter.drawArc(QRect(4, 4, 16, 16), 60 * 16, 280 * 16);
-        painter.setBrush(color);
-        painter.drawPolygon(QPolygon({QPoint(14, 1), QPoint(20, 5), QPoint(14, 9)}));
-    }
-    return image;
-}
-
 QGroupBox* framed(QWidget* side, const char* name, std::initializer_list<QWidget*> controls)
 {
     auto* frame = named(new QGroupBox(side), name);
@@ -76,7 +57,7 @@ QGroupBox* framed(QWidget* side, const char* name, std::initializer_list<QWidget
 QLabel* imageHolder(QWidget* parent, const char* name, bool stop, bool down)
 {
     auto* label = named(new QLabel(parent), name);
-    label->setPixmap(buttonImage(stop, down));
+    label->setPixmap(RefreshButtonImage(stop, down));
     label->hide();
     return label;
 }
@@ -101,6 +82,7 @@ frmWave::frmWave(int slot, QWidget* parent) : QWidget(parent), slot_(validSlot(s
     setFocusPolicy(Qt::StrongFocus);
     buildControls();
     connectControls();
+    makeRefreshLoop();
     WaveForms[slot_] = this;
     hookReadingFrame();
     SetCaptions(Language);
@@ -211,7 +193,6 @@ void frmWave::arrangeSidePanel(QWidget* side)
 void frmWave::connectControls()
 {
     connect(Timer1, &QTimer::timeout, this, &frmWave::Timer1_Timer);
-    connect(Timer2, &QTimer::timeout, this, &frmWave::Timer2_Timer);
     connect(cmdRefresh, &QPushButton::clicked, this, &frmWave::cmdRefresh_Click);
     connect(cmdExport, &QPushButton::clicked, this, &frmWave::cmdExport_Click);
     connect(cmdPreview, &QPushButton::clicked, this, &frmWave::cmdPreview_Click);
@@ -328,7 +309,7 @@ void frmWave::ChkCH_Click(int index)
 void frmWave::closeEvent(QCloseEvent* event)
 {
     const bool reading = OperationRunning && CurrentWaveIndex == slot_;
-    if (Connecting || refreshRunning_ || reading) {
+    if (Connecting || refreshLoop_->busy() || reading) {
         event->ignore();
         return;
     }

@@ -40,7 +40,6 @@ class frmWave : public QWidget, public PrintablePicture {
     void SetCaptions(int language);
 
     void Timer1_Timer();
-    void Timer2_Timer();
     void cmdRefresh_Click();
     void LoadData();
     // The resize routine: the window's only redraw.
@@ -94,9 +93,7 @@ class frmWave : public QWidget, public PrintablePicture {
     void Form_Load();
     void restoreFromRecord();
     void followInstrumentDisplays();
-    void runSingleRefresh();
-    void runIntervalRefresh();
-    void endRefresh();
+    void makeRefreshLoop();
     void setRefreshImages(bool stopPair);
     void placeScrollBars(const struct WaveViewLayout& layout);
     void placeProgressStrip();
@@ -105,7 +102,6 @@ class frmWave : public QWidget, public PrintablePicture {
     void showCursors();
     ChannelBoxes channelBoxes() const;
     void setChannelBoxes(const ChannelBoxes& boxes);
-    bool waitBetweenReads();
 
     QFrame* BackPic;
     WavePicture* WavePic;
@@ -141,8 +137,7 @@ class frmWave : public QWidget, public PrintablePicture {
     int slot_;
     double Zoom = 1.0;
     bool firstRun_ = true;
-    bool refreshRunning_ = false; // a single refresh's transfer is under way
-    bool stopRequest_ = false;
+    class RefreshLoop* refreshLoop_ = nullptr;
     bool printing_ = false;
     CursorState cursors_;
     QImage cleanPicture_; // grid and traces, without the cursor layer

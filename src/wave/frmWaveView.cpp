@@ -3,11 +3,11 @@
 #include "wave/frmWave.h"
 
 #include "acquire/waverecord.h"
-#include "text/language.h"
-#include "text/messages.h"
 #include "link/devicefacts.h"
 #include "platform/platform.h"
 #include "sheet/sheetstate.h"
+#include "text/language.h"
+#include "text/messages.h"
 #include "wave/cursordrawing.h"
 #include "wave/cursormouse.h"
 #include "wave/frmWavePicture.h"

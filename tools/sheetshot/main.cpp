@@ -1,6 +1,9 @@
 // Drives the real main window the way a user would: a new data sheet, two wave
-// windows, Tools > Connect, Refresh in each, windows tiled; then saves a picture
+// windows (or, with "analysis", a measure window with limits set and a data
+// window), Tools > Connect, Refresh in each, windows tiled; then saves a picture
 // of the main window. Used by tools/wave_screenshot.sh against the simulator.
+#include "analysis/frmPassFailed.h"
+#include "analysis/measurerecord.h"
 #include "controller/ctrlstate.h"
 #include "frame/frmMain.h"
 #include "frame/frmStartup.h"
@@ -11,6 +14,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
@@ -34,6 +38,35 @@ void refreshEveryWaveWindow(frmMain* window)
         if (auto* refresh = sub->findChild<QAbstractButton*>(QStringLiteral("cmdRefresh"))) refresh->click();
 }
 
+// Limits a user would set in the Pass & Fail dialog: Vpp passes, Vmax lies
+// under its range, the frequency over its.
+void setMeasureLimits()
+{
+    MeasureRecords[0].Items[0] = {{}, true, 10.0, 0.0, {}};
+    MeasureRecords[0].Items[1] = {{}, true, 5.0, 2.0, {}};
+    MeasureRecords[0].Items[7] = {{}, true, 500.0, 100.0, {}};
+}
+
+void addWindows(frmMain* window, bool analysis)
+{
+    trigger(window, analysis ? "AddNewMeasure" : "AddNewWaveform");
+    trigger(window, analysis ? "AddNewData" : "AddNewWaveform");
+    if (analysis) setMeasureLimits();
+}
+
+// The limits dialog of the measure window beside the sheet's picture (OUT-limits.png),
+// with Vmax selected.
+void saveLimitsDialog(frmMain* window, QString path)
+{
+    frmPassFailed dialog(0, QStringLiteral("Measure0"), window);
+    dialog.Timer1_Timer();
+    if (auto* type = dialog.findChild<QComboBox*>(QStringLiteral("MTypeCombo"))) type->setCurrentIndex(1);
+    dialog.show();
+    QApplication::processEvents();
+    path.replace(QStringLiteral(".png"), QStringLiteral("-limits.png"));
+    dialog.grab().save(path);
+}
+
 int finish(frmMain* window, const QString& path)
 {
     const bool saved = window->grab().save(path);
@@ -48,20 +81,20 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(ProgramTitle);
     if (argc < 2) {
-        std::fprintf(stderr, "usage: selvane-sheetshot OUT.png\n");
+        std::fprintf(stderr, "usage: selvane-sheetshot OUT.png [wave|analysis]\n");
         return 2;
     }
     const QString path = QString::fromLocal8Bit(argv[1]);
+    const bool analysis = argc > 2 && QByteArray(argv[2]) == "analysis";
     // Boxes go to stderr and take their default answer: nobody is there to click.
     installPlatform(std::make_unique<CliPlatform>());
 
     std::unique_ptr<frmMain> window(Main());
     window->resize(1200, 760);
     int status = 1;
-    QTimer::singleShot(300, window.get(), [&] {
+    QTimer::singleShot(300, window.get(), [&, analysis] {
         trigger(window.get(), "mnuNewDataSheet");
-        trigger(window.get(), "AddNewWaveform");
-        trigger(window.get(), "AddNewWaveform");
+        addWindows(window.get(), analysis);
         trigger(window.get(), "mnuToolsConnect");
         if (!Connected) std::fprintf(stderr, "not connected: the picture shows empty windows\n");
         // As a download of the settings tree would find them: the simulator shows CH1 and CH2.
@@ -70,8 +103,9 @@ int main(int argc, char** argv)
         // The windows' timers tick the channel boxes after the switches first.
         QTimer::singleShot(1200, window.get(), [&] {
             refreshEveryWaveWindow(window.get());
-            QTimer::singleShot(300, window.get(), [&] {
+            QTimer::singleShot(300, window.get(), [&, analysis] {
                 status = finish(window.get(), path);
+                if (analysis) saveLimitsDialog(window.get(), path);
                 QApplication::exit(status);
             });
         });
