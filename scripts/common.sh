@@ -3,7 +3,7 @@
 
 SELVANE_PACKAGES=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-serialport-dev libgl-dev
                   libgtest-dev libgmock-dev libbenchmark-dev fonts-noto-cjk xvfb xauth
-                  python3 python3-pyvisa-py)
+                  python3 python3-pyvisa-py ccache)
 
 selvane_install() {
     local missing=()
@@ -24,6 +24,12 @@ selvane_install() {
 selvane_build() {
     local dir="${1:-build}"
     shift || true
-    cmake -S . -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@" || return 1
+    # ccache keyed on paths relative to the checkout, so clones and worktrees share hits.
+    local launcher=()
+    if command -v ccache >/dev/null; then
+        export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1
+        launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCMAKE_C_COMPILER_LAUNCHER=ccache)
+    fi
+    cmake -S . -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "${launcher[@]}" "$@" || return 1
     cmake --build "$dir" -j "$(nproc)" || return 1
 }
