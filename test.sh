@@ -4,6 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 source scripts/common.sh
 selvane_install
+tools/layercheck.sh
 selvane_build build -DSELVANE_WERROR=ON
 export QT_QPA_PLATFORM=offscreen
 cd build

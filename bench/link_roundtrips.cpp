@@ -9,6 +9,7 @@
 #include "link/connection.h"
 #include "link/linkcommands.h"
 #include "link/linkstate.h"
+#include "acquire/blockdecode.h"
 #include "link/usbtransport.h"
 #include "state/programstate.h"
 #include "platform/testplatform.h"

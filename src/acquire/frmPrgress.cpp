@@ -1,6 +1,6 @@
 #include "acquire/frmPrgress.h"
 
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
 #include "platform/platform.h"
 

@@ -1,14 +1,15 @@
 #include "acquire/readdatatable.h"
 
+#include "acquire/blockdecode.h"
 #include "acquire/operation.h"
 #include "acquire/readblocks.h"
 #include "acquire/tabletext.h"
 #include "acquire/wavebytes.h"
-#include "text/valuetext.h"
 #include "link/devicefacts.h"
 #include "link/linkcommands.h"
 #include "link/usbtransport.h"
 #include "link/vocabulary.h"
+#include "text/valuetext.h"
 
 #include <cmath>
 

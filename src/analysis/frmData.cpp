@@ -5,7 +5,7 @@
 #include "analysis/datarecord.h"
 #include "analysis/exportfile.h"
 #include "platform/platform.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "text/language.h"
 
 #include <QLabel>

@@ -6,7 +6,7 @@
 #include "analysis/measurejudge.h"
 #include "analysis/readmeasure.h"
 #include "platform/platform.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "text/language.h"
 
 #include <QComboBox>

@@ -2,7 +2,7 @@
 
 #include "analysis/measurejudge.h"
 #include "platform/platform.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "text/language.h"
 #include "text/messages.h"
 

@@ -1,7 +1,7 @@
 #include "frame/framestate.h"
 
 #include "frame/commstatus.h"
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 
 void ResetFrameState()
 {

@@ -13,7 +13,7 @@
 #include "link/connection.h"
 #include "sheet/frmDataSheetTree.h"
 #include "sheet/frmNewDoc.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "wave/frmWaveSetting.h"
 
 #include <QMdiArea>

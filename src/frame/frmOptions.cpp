@@ -3,7 +3,7 @@
 #include "text/captionwidgets.h"
 #include "text/language.h"
 #include "frame/optionschoice.h"
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
 
 #include <QCheckBox>

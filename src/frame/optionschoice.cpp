@@ -1,7 +1,7 @@
 #include "frame/optionschoice.h"
 
 #include "text/valuetext.h"
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 #include "link/connection.h"
 #include "link/linkcommands.h"
 #include "link/linkstate.h"

@@ -1,6 +1,3 @@
-#include "acquire/wavebytes.h"
-#include "acquire/waveparameter.h"
-#include "text/messages.h"
 #include "link/linkcommands.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"
@@ -8,6 +5,7 @@
 #include "link/visalibrary.h"
 #include "link/vocabulary.h"
 #include "platform/platform.h"
+#include "text/messages.h"
 
 #include <algorithm>
 #include <array>
@@ -42,7 +40,7 @@ void reportReadFailure()
 
 } // namespace
 
-bool UsbReadScreen(int& sampleCount)
+bool UsbReadScreenBytes(std::span<int32_t> into, int& sampleCount)
 {
     sampleCount = 0;
     if (!LinkGateOpen()) return true;
@@ -53,33 +51,32 @@ bool UsbReadScreen(int& sampleCount)
     const int digits = headerDigit(buffer.data(), count);
     const int samples = int(count) - digits - 3;
     sampleCount = std::max(samples, 0);
+    const int last = int(into.size()) - 1;
     for (int i = 1; i <= samples; ++i) {
         const int from = i + digits + 1;
-        if (i > WaveBytesLast || from < 0) return false;
-        WaveBytes[size_t(i)] = buffer[size_t(from)];
+        if (i > last || from < 0) return false;
+        into[size_t(i)] = buffer[size_t(from)];
     }
     return true;
 }
 
-QString UsbReadParameter(WaveParameter& target)
+bool UsbReadParameterBytes(QByteArray& block)
 {
-    if (!LinkGateOpen()) return {};
+    if (!LinkGateOpen()) return false;
     std::array<ViByte, 2> head{};
     ViUInt32 count = 0;
     Visa().read(VisaSession, head.data(), ViUInt32(head.size()), &count);
     const int digits = headerDigit(head.data(), count);
-    if (digits < 0) return {}; // no header: nothing to decode
-    std::vector<ViByte> body(size_t(digits) + WaveParameterSize + 1);
+    if (digits < 0) return false; // no header: nothing to decode
+    std::vector<ViByte> body(size_t(digits) + ParameterBlockSize + 1);
     const ViStatus status = Visa().read(VisaSession, body.data(), ViUInt32(body.size()), &count);
-    WaveParameter decoded;
-    Lindquay(body.data() + digits, &decoded);
     if (!readSucceeded(status)) {
         reportReadFailure();
         if (Connected) LinkLost();
-        return {};
+        return false;
     }
-    target = decoded;
-    return QString::number(double(decoded.f32FFTHorizOffset), 'g', 7).trimmed();
+    block = QByteArray(reinterpret_cast<const char*>(body.data()) + digits, qsizetype(ParameterBlockSize));
+    return true;
 }
 
 void UsbReadBlock(int& count, QByteArray& bytes)

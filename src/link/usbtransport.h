@@ -6,9 +6,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <cstdint>
 #include <functional>
-
-struct WaveParameter;
+#include <span>
 
 // The find pattern of UsbOpen: every USB, TCPIP or GPIB instrument resource.
 inline constexpr char InstrumentFindPattern[] = "(USB|TCPIP|GPIB)?*INSTR";
@@ -32,18 +32,18 @@ void UsbWrite(const QString& command);
 // is left for the next read. Read failures are not reported.
 QString UsbRead();
 
-// One block of at most 6400 bytes into WaveBytes, sample i at index i. The
+// One block of at most 6400 bytes into `into`, sample i at index i. The
 // length digits of the header are not parsed: the samples are the bytes
 // between the header and the final line feed. sampleCount gets their number,
-// never below 0. Returns false when a sample would fall outside WaveBytes (or
+// never below 0. Returns false when a sample would fall outside `into` (or
 // before the buffer, for a header that is not one): that is the reading's error
 // path, and the samples stored before it stay.
-bool UsbReadScreen(int& sampleCount);
-// Reads the 80-byte ":WAVEFORM:PARAMETER?" block into target. A failed read
-// shows a box, ends in LinkLost when connected, leaves target as it was and
-// returns "". Otherwise returns f32FFTHorizOffset as text: a mark that
-// something was read.
-QString UsbReadParameter(WaveParameter& target);
+bool UsbReadScreenBytes(std::span<int32_t> into, int& sampleCount);
+// The bytes of the ":WAVEFORM:PARAMETER?" block after its "#n" header.
+inline constexpr int ParameterBlockSize = 80;
+// Reads the parameter block into `block` (ParameterBlockSize bytes, undecoded).
+// A failed read shows a box, ends in LinkLost when connected and returns false.
+bool UsbReadParameterBytes(QByteArray& block);
 // One read of a screen picture. When a whole picture came, its 77878 bytes go
 // to bytes and count becomes 77878; otherwise both are left as they were. A
 // failed read is reported only when no query was sent since the last good one.

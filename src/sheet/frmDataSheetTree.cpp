@@ -7,7 +7,7 @@
 #include "text/productinfo.h"
 #include "sheet/frmSheetWindows.h"
 #include "sheet/sheetslots.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "stored/storedfiledialogs.h"
 
 #include <QEvent>

@@ -2,7 +2,7 @@
 // The data sheet pane: the tree of the open sheet with the sheet as root and one
 // node per child window. It creates, activates, renames and removes those windows.
 
-#include "sheet/sheetkinds.h"
+#include "document/sheetkinds.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

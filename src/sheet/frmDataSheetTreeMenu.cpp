@@ -7,7 +7,7 @@
 #include "text/messages.h"
 #include "platform/platform.h"
 #include "sheet/sheetslots.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 
 #include <QMenu>
 #include <QTreeWidget>

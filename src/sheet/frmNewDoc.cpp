@@ -3,7 +3,7 @@
 #include "text/captionwidgets.h"
 #include "text/language.h"
 #include "sheet/frmDataSheetTree.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -2,7 +2,7 @@
 // The child windows of a data sheet as the tree sees them: made by kind inside
 // the main window's area, each holding its slot number as its tag text.
 
-#include "sheet/sheetkinds.h"
+#include "document/sheetkinds.h"
 
 class QMdiArea;
 class QMdiSubWindow;

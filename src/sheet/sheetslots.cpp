@@ -3,7 +3,7 @@
 #include "text/captions.h"
 #include "text/messages.h"
 #include "platform/platform.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "sheet/slotrecords.h"
 
 namespace {

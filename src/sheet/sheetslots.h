@@ -3,7 +3,7 @@
 // closing a sheet, taking, naming and releasing the slots of its windows.
 
 #include "text/language.h"
-#include "sheet/sheetkinds.h"
+#include "document/sheetkinds.h"
 
 #include <QString>
 #include <functional>

@@ -2,7 +2,7 @@
 // The program-wide records behind the sheet's windows, seen by kind and slot:
 // a new window's slot is cleared, a removed window's later slots move down.
 
-#include "sheet/sheetkinds.h"
+#include "document/sheetkinds.h"
 
 #include <QString>
 

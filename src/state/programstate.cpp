@@ -6,7 +6,7 @@
 #include "controller/ctrlstate.h"
 #include "frame/framestate.h"
 #include "link/linkstate.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "text/language.h"
 #include "wave/fftsetting.h"
 #include "wave/waverefresh.h"

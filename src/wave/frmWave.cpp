@@ -3,7 +3,7 @@
 #include "acquire/operation.h"
 #include "acquire/waverecord.h"
 #include "link/linkstate.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
 #include "wave/frmWavePicture.h"

@@ -6,7 +6,7 @@
 #include "acquire/operation.h"
 #include "acquire/waverecord.h"
 #include "platform/platform.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "text/language.h"
 #include "wave/refreshloop.h"
 #include "wave/waverefresh.h"

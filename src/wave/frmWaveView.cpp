@@ -5,7 +5,7 @@
 #include "acquire/waverecord.h"
 #include "link/devicefacts.h"
 #include "platform/platform.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "text/language.h"
 #include "text/messages.h"
 #include "wave/cursordrawing.h"

@@ -1,6 +1,6 @@
 #include "wave/refreshloop.h"
 
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
 #include "platform/platform.h"
 #include "text/messages.h"

@@ -1,5 +1,5 @@
 #include "frame/optionschoice.h"
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
 #include "state/programstate.h"
 #include "platform/testplatform.h"

@@ -4,7 +4,7 @@
 
 #include "acquire/frmPrgress.h"
 #include "acquire/operation.h"
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
 #include "state/programstate.h"
 #include "platform/testplatform.h"

@@ -2,7 +2,7 @@
 
 #include "controller/ctrlstate.h"
 #include "link/linkstate.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "fakeinstrument.h"
 #include "frame/frmOptions.h"
 #include "text/language.h"
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 #include "link/connection.h"
 #include "link/linkstate.h"
 #include "link/usbtransport.h"

@@ -5,9 +5,9 @@
 #include "acquire/operation.h"
 #include "acquire/readwavewindow.h"
 #include "acquire/waverecord.h"
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "wave/waverefresh.h"
 
 #include <QCheckBox>

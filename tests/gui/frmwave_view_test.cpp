@@ -4,7 +4,7 @@
 
 #include "acquire/waverecord.h"
 #include "link/linkstate.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 #include "wave/wavechannels.h"
 #include "wave/waverefresh.h"
 

@@ -3,7 +3,7 @@
 #include "text/language.h"
 #include "sheet/frmDataSheetTree.h"
 #include "sheet/frmNewDoc.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 
 #include <QApplication>
 #include <QMdiArea>

@@ -4,7 +4,7 @@
 #include "link/linkstate.h"
 #include "sheet/frmDataSheetTree.h"
 #include "sheet/frmSheetWindows.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

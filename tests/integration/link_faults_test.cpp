@@ -1,6 +1,7 @@
 // A link that breaks, a query that is never answered, and blocks that are cut
 // or noise: the link must end in LinkLost or an empty reply, never crash,
 // never read past a buffer.
+#include "acquire/blockdecode.h"
 #include "link_simlink.h"
 
 #include "acquire/waveparameter.h"

@@ -1,6 +1,7 @@
 // The VISA binary reads: screen codes into WaveBytes, the parameter block, the
 // screen picture, and the picture loop of the virtual panel. Malformed blocks
 // must never read outside their buffers.
+#include "acquire/blockdecode.h"
 #include "link_fakevisa.h"
 
 #include "acquire/wavebytes.h"

@@ -1,5 +1,6 @@
 // WriteCmd, AskCmd and the VISA text routines: the gate, the pause, cut
 // replies, and what a failed write leaves behind.
+#include "acquire/blockdecode.h"
 #include "link_fakevisa.h"
 
 #include "acquire/waveparameter.h"

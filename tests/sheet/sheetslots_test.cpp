@@ -5,7 +5,7 @@
 #include "state/programstate.h"
 #include "platform/testplatform.h"
 #include "sheet/sheetslots.h"
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sheet/sheetstate.h"
+#include "document/sheetstate.h"
 
 QString DataSheetName;
 QString SheetFileName;

@@ -1,4 +1,4 @@
-#include "frame/softwaresettings.h"
+#include "settings/softwaresettings.h"
 
 #include "link/linkstate.h"
 #include "platform/platform.h"

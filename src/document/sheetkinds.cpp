@@ -1,4 +1,4 @@
-#include "sheet/sheetkinds.h"
+#include "document/sheetkinds.h"
 
 #include "text/language.h"
 

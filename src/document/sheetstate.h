@@ -3,7 +3,7 @@
 // whether it has changes that are not saved, and the names of its windows by
 // kind and slot. A window's slot is its place in its kind's list.
 
-#include "sheet/sheetkinds.h"
+#include "document/sheetkinds.h"
 
 #include <QString>
 #include <QStringList>
