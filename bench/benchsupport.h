@@ -1,7 +1,7 @@
 #pragma once
-// Shared by the drawing benchmarks: a Y-T reading of sine waves over the whole
-// screen, and a main() that brings up an offscreen GUI application (text needs
-// fonts, and fonts need one).
+// Shared by the benchmarks: a Y-T reading of sine waves over the whole screen,
+// and the main() of a benchmark program (the drawing ones bring up an offscreen
+// GUI application: text needs fonts, and fonts need one).
 
 #include "acquire/waverecord.h"
 
@@ -33,13 +33,19 @@ inline WaveRecord SineReading(int channels, const QString& scale)
     return r;
 }
 
-inline int GuiBenchmarkMain(int argc, char** argv)
+// Runs the registered benchmarks inside an application object the caller made.
+inline int RunBenchmarks(int& argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;
+}
+
+inline int GuiBenchmarkMain(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    return RunBenchmarks(argc, argv);
 }

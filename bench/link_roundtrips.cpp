@@ -4,15 +4,16 @@
 // 100 ms pause is not waited for here (the recording platform only counts it),
 // so the block figure is the transport's, not the program's pacing.
 
+#include "benchsupport.h"
 #include "simprocess.h"
 
+#include "acquire/blockdecode.h"
 #include "link/connection.h"
 #include "link/linkcommands.h"
 #include "link/linkstate.h"
-#include "acquire/blockdecode.h"
 #include "link/usbtransport.h"
-#include "state/programstate.h"
 #include "platform/testplatform.h"
+#include "state/programstate.h"
 #include "visa/visaconfig.h"
 
 #include <QCoreApplication>
@@ -103,11 +104,8 @@ int main(int argc, char** argv)
     QCoreApplication app(argc, argv);
     qputenv("SELVANE_VISA", "builtin");
     ScopedTestPlatform platform;
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
+    const int status = RunBenchmarks(argc, argv);
     CloseVisaRM();
     thePeer.reset();
-    return 0;
+    return status;
 }

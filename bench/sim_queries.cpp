@@ -2,6 +2,7 @@
 // many *IDN? per second one connection gets (wall-clock), and how fast a waveform block
 // comes. Time per iteration is the latency of one query.
 
+#include "benchsupport.h"
 #include "simprocess.h"
 
 #include <QCoreApplication>
@@ -97,10 +98,7 @@ BENCHMARK(BM_ScreenBlock)->Unit(benchmark::kMicrosecond)->UseRealTime();
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    thePeer.reset();
-    return 0;
+    const int status = RunBenchmarks(argc, argv);
+    thePeer.reset(); // the simulator stops before the application does
+    return status;
 }

@@ -3,6 +3,7 @@
 // over each backend; and one waveform block per iteration. Time per iteration
 // is the latency of one exchange; items per second the round trips.
 
+#include "benchsupport.h"
 #include "simprocess.h"
 #include "visa/visa.h"
 
@@ -113,10 +114,7 @@ BENCHMARK_CAPTURE(BM_ScreenDataBlock, hislip, Hislip)->Unit(benchmark::kMicrosec
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    thePeer.reset();
-    return 0;
+    const int status = RunBenchmarks(argc, argv);
+    thePeer.reset(); // the simulator stops before the application does
+    return status;
 }

@@ -37,22 +37,3 @@ QDateTime CliPlatform::now()
 {
     return QDateTime::currentDateTime();
 }
-
-QString CliPlatform::getSetting(const QString& section, const QString& key, const QString& defaultValue)
-{
-    return store_.get(section, key, defaultValue);
-}
-
-void CliPlatform::saveSetting(const QString& section, const QString& key, const QString& value)
-{
-    store_.save(section, key, value);
-}
-
-void CliPlatform::deleteSetting(const QString& section, const QString& key)
-{
-    store_.remove(section, key);
-}
-SettingList CliPlatform::allSettings(const QString& section)
-{
-    return store_.all(section);
-}

@@ -21,10 +21,7 @@ class CliPlatform : public Platform {
     void sleep(int ms) override;
     void doEvents() override;
     QDateTime now() override;
-    QString getSetting(const QString& section, const QString& key, const QString& defaultValue) override;
-    void saveSetting(const QString& section, const QString& key, const QString& value) override;
-    void deleteSetting(const QString& section, const QString& key) override;
-    SettingList allSettings(const QString& section) override;
+    SettingsStore& settings() override { return store_; }
 
   private:
     SettingsStore store_;

@@ -1,6 +1,7 @@
 #include "platform/platform.h"
 
 #include "platform/cliplatform.h"
+#include "platform/settingsstore.h"
 
 namespace {
 std::unique_ptr<Platform>& installed()
@@ -73,21 +74,21 @@ QDateTime Now()
 
 QString GetSetting(const QString& section, const QString& key, const QString& defaultValue)
 {
-    return platform().getSetting(section, key, defaultValue);
+    return platform().settings().get(section, key, defaultValue);
 }
 
 void SaveSetting(const QString& section, const QString& key, const QString& value)
 {
-    platform().saveSetting(section, key, value);
+    platform().settings().save(section, key, value);
 }
 
 void DeleteSetting(const QString& section, const QString& key)
 {
-    platform().deleteSetting(section, key);
+    platform().settings().remove(section, key);
 }
 SettingList GetAllSettings(const QString& section)
 {
-    return platform().allSettings(section);
+    return platform().settings().all(section);
 }
 
 double GetSettingNumber(const QString& section, const QString& key, double defaultValue)

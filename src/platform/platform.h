@@ -49,6 +49,7 @@ struct FileDialogRequest {
 };
 
 using SettingList = QList<QPair<QString, QString>>;
+class SettingsStore;
 
 class Platform {
   public:
@@ -63,10 +64,7 @@ class Platform {
     virtual QDateTime now() = 0;
 
     // The per-user settings store of application "Selvane"; values are text.
-    virtual QString getSetting(const QString& section, const QString& key, const QString& defaultValue) = 0;
-    virtual void saveSetting(const QString& section, const QString& key, const QString& value) = 0;
-    virtual void deleteSetting(const QString& section, const QString& key) = 0;
-    virtual SettingList allSettings(const QString& section) = 0;
+    virtual SettingsStore& settings() = 0;
 };
 
 // Installs the implementation used from now on and returns the previous one.

@@ -48,25 +48,6 @@ void TestPlatform::doEvents()
     if (onDoEvents) onDoEvents();
 }
 
-QString TestPlatform::getSetting(const QString& section, const QString& key, const QString& defaultValue)
-{
-    return store_.get(section, key, defaultValue);
-}
-
-void TestPlatform::saveSetting(const QString& section, const QString& key, const QString& value)
-{
-    store_.save(section, key, value);
-}
-
-void TestPlatform::deleteSetting(const QString& section, const QString& key)
-{
-    store_.remove(section, key);
-}
-SettingList TestPlatform::allSettings(const QString& section)
-{
-    return store_.all(section);
-}
-
 ScopedTestPlatform::ScopedTestPlatform()
 {
     auto fresh = std::make_unique<TestPlatform>();

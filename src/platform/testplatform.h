@@ -47,10 +47,7 @@ class TestPlatform : public Platform {
     void sleep(int ms) override;
     void doEvents() override;
     QDateTime now() override { return clock_; }
-    QString getSetting(const QString& section, const QString& key, const QString& defaultValue) override;
-    void saveSetting(const QString& section, const QString& key, const QString& value) override;
-    void deleteSetting(const QString& section, const QString& key) override;
-    SettingList allSettings(const QString& section) override;
+    SettingsStore& settings() override { return store_; }
 
   private:
     QTemporaryDir dir_;

@@ -78,22 +78,3 @@ QDateTime WidgetsPlatform::now()
 {
     return QDateTime::currentDateTime();
 }
-
-QString WidgetsPlatform::getSetting(const QString& section, const QString& key, const QString& defaultValue)
-{
-    return store_.get(section, key, defaultValue);
-}
-
-void WidgetsPlatform::saveSetting(const QString& section, const QString& key, const QString& value)
-{
-    store_.save(section, key, value);
-}
-
-void WidgetsPlatform::deleteSetting(const QString& section, const QString& key)
-{
-    store_.remove(section, key);
-}
-SettingList WidgetsPlatform::allSettings(const QString& section)
-{
-    return store_.all(section);
-}
