@@ -1,9 +1,11 @@
 // Replies of the simulated instrument in the forms the program's download
-// and editors read, and how commands change (or refuse to change) them.
+// and editors read, and how commands and front-panel keys change (or refuse
+// to change) them.
 #include "instrument.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace {
 
@@ -39,6 +41,37 @@ TEST(ReplyTable, PowerOnRepliesAndSettings)
     EXPECT_EQ(rows, 61);
 }
 
+// Every session of data/sessions.txt, each on a fresh instrument.
+TEST(Sessions, EveryQueryGetsItsReply)
+{
+    QFile file(QStringLiteral(SELVANE_TEST_DATA "/sim/data/sessions.txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
+    std::unique_ptr<Instrument> instrument;
+    QByteArray session;
+    int sessions = 0;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed();
+        if (line.isEmpty() || line.startsWith('#')) continue;
+        if (line.startsWith("== ")) {
+            session = line.mid(3);
+            instrument = std::make_unique<Instrument>();
+            ++sessions;
+            continue;
+        }
+        ASSERT_TRUE(instrument) << "a line before the first session";
+        SCOPED_TRACE((session + ": " + line).constData());
+        const qsizetype arrow = line.indexOf("=>");
+        if (arrow < 0) {
+            instrument->handle(line);
+            continue;
+        }
+        const QByteArray reply = line.mid(arrow + 2).trimmed();
+        EXPECT_EQ(instrument->handle(line.left(arrow).trimmed()),
+                  reply.isEmpty() ? QByteArray() : reply + '\n');
+    }
+    EXPECT_EQ(sessions, 12);
+}
+
 TEST(RefusedValueTest, OutOfRangeNumbersLeaveTheState)
 {
     Instrument instrument;
@@ -58,66 +91,6 @@ TEST(RefusedValueTest, OutOfRangeNumbersLeaveTheState)
     EXPECT_EQ(state.trigger.edge.level, fresh.trigger.edge.level);
     EXPECT_EQ(state.baudRate, fresh.baudRate);
     EXPECT_EQ(state.trigger.pattern.value, fresh.trigger.pattern.value);
-}
-
-TEST(ChannelScaleTest, TakesInputVoltsAndAnswersDisplayedVolts)
-{
-    Instrument instrument;
-    instrument.handle(":CHANNEL1:PROBE 10X");
-    EXPECT_EQ(instrument.handle(":CHANNEL1:SCALE?"), "1.000e+01\n"); // the probe rescales the display
-    instrument.handle(":CHANNEL1:SCALE 50.0MV");
-    EXPECT_EQ(instrument.handle(":CHANNEL1:SCALE?"), "5.000e-01\n");
-    // The offset stays where it was on the screen: two divisions up.
-    EXPECT_EQ(instrument.handle(":CHANNEL1:OFFSET?"), "1.000e+00\n");
-}
-
-TEST(SpellingTest, MnemonicsIgnoreCaseAndTakeShortForms)
-{
-    Instrument instrument;
-    instrument.handle(":trigger:mode pulse");
-    instrument.handle(":TRIGGER:ALTERNATION:CURRentSOURce SOURceB");
-    instrument.handle(":Chan2:Scal 0.5");
-    EXPECT_EQ(instrument.handle(":TRIG:MODE?"), "PULSE\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:CURRENTSOURCE?"), "SOURCEB\n");
-    EXPECT_EQ(instrument.handle(":channel2:scale?"), "5.000e-01\n");
-}
-
-TEST(SpellingTest, OddCommandsKeptOnPurposeAreUnderstood)
-{
-    Instrument instrument;
-    instrument.handle(":TRIGGERPULSE:LEVEL 0.8");
-    instrument.handle(":TRIG:PATT:PATT 1,3,0");
-    instrument.handle(":TRIGGER:PATTERN:PATTERN 0,4,1,2,0");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PULSE:LEVEL?"), "8.000e-01\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:PATTERN?"), "0,4,EXT5,2,NEGATIVE\n");
-    instrument.handle(":TRIGGER:PATTERN:PATTERN 1,17,0,4,1");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:PATTERN?"), "1,17,EXT,EXT,POSITIVE\n");
-}
-
-TEST(PatternLevelTest, LevelsAreKeptPerInput)
-{
-    Instrument instrument;
-    instrument.handle(":TRIGGER:PATTERN:LEVEL 0.5,CHANNEL2");
-    instrument.handle(":TRIGGER:PATTERN:LEVEL EXT,-0.4");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:LEVEL? CHANNEL2"), "5.000e-01\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:LEVEL? EXT"), "-4.000e-01\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:LEVEL? CHANNEL1"), "0.000e+00\n");
-}
-
-TEST(AlternationTest, EachSourceKeepsItsOwnWindowAndTrigger)
-{
-    Instrument instrument;
-    instrument.handle(":TRIGGER:ALTERNATION:SOURCE CH2CH4");
-    instrument.handle(":TRIGGER:ALTERNATION:TIMESCALE 1e-3,SOURCEB");
-    instrument.handle(":TRIGGER:ALTERNATION:CURRENTSOURCE SOURCEB");
-    instrument.handle(":TRIGGER:ALTERNATION:TYPE PULSE");
-    instrument.handle(":TRIGGER:ALTERNATION:PULSE:TIME 3e-6");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:SOURCE?"), "CHANNEL2CHANNEL4\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:TIMESCALE? SOURCEB"), "1.000e-03\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:TIMESCALE? SOURCEA"), "5.000e-04\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:PULSE:TIME?"), "3.000e-06\n");
-    instrument.handle(":TRIGGER:ALTERNATION:SOURCE CHANNEL2"); // a single channel selects its source
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:TYPE?"), "EDGE\n");
 }
 
 TEST(UnknownTest, UnknownQueriesGetNoReplyAndUnknownCommandsNoEffect)
@@ -144,16 +117,30 @@ TEST(ResetTest, RstRestoresPowerOnValues)
     EXPECT_EQ(after, before);
 }
 
-TEST(FormatTest, XyTurnsOnTheTwoChannelsItDrawsAndLeavesAlternation)
+TEST(KeysTest, KeyLockAndSweepKeys)
 {
     Instrument instrument;
-    instrument.handle(":TRIGGER:MODE ALTERNATION");
-    instrument.handle(":CHANNEL3:DISPLAY ON");
-    instrument.handle(":CHANNEL2:DISPLAY OFF");
-    instrument.handle(":TIMEBASE:FORMAT XY");
-    EXPECT_EQ(instrument.handle(":CHANNEL2:DISPLAY?"), "1\n");
-    EXPECT_EQ(instrument.handle(":CHANNEL3:DISPLAY?"), "0\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:MODE?"), "EDGE\n");
+    instrument.handle(":KEY:LOCK ENABLE");
+    EXPECT_TRUE(instrument.state().keyLocked);
+    instrument.handle(":KEY:LOCK DISABLE");
+    EXPECT_FALSE(instrument.state().keyLocked);
+    instrument.handle(":KEY:TRIGMODE");
+    EXPECT_EQ(instrument.handle(":TRIGGER:EDGE:SWEEP?"), "NORMAL\n");
+    instrument.handle(":KEY:TRIG_AUTO");
+    EXPECT_EQ(instrument.handle(":TRIGGER:EDGE:SWEEP?"), "AUTO\n");
+}
+
+TEST(KeysTest, ScreenPictureFollowsTheKeys)
+{
+    Instrument instrument;
+    const QByteArray before = instrument.handle(":DISPLAY:DATA?");
+    instrument.handle(":KEY:CH1_VOLT_DEC");
+    instrument.handle(":STOP");
+    const QByteArray after = instrument.handle(":DISPLAY:DATA?");
+    EXPECT_EQ(after.size(), before.size());
+    EXPECT_NE(after, before);
+    EXPECT_EQ(instrument.screenPicture().runText, "STOP");
+    EXPECT_EQ(instrument.screenPicture().traces[0].legend, "CH1 500mV");
 }
 
 } // namespace
