@@ -1,6 +1,6 @@
 // The reading frame without a window: the bar's clock, the dispatch on the
 // operation code and the closing steps, which run after an error path too.
-#include "reading_fakevisa.h"
+#include "reading_fixture.h"
 
 #include "acquire/operation.h"
 #include "acquire/readdatatable.h"
@@ -74,7 +74,7 @@ TEST_F(ReadingFrame, RunsTheInstalledRoutineAndClosesEvenOnItsErrorPath)
         EXPECT_FALSE(LinkBusy);
         EXPECT_EQ(platform->sleeps, QList<int>{ReadingEndPauseMs});
         EXPECT_EQ(endedSlot, finished ? 7 : -1) << "the window's end only after a finished reading";
-        EXPECT_EQ(visa->writes.front(), ":TRIGGER:STATUS?");
+        EXPECT_EQ(visa->commands().front(), ":TRIGGER:STATUS?");
     }
 }
 
@@ -83,7 +83,7 @@ TEST_F(ReadingFrame, UnknownCodeDoesNothingButClose)
     EXPECT_FALSE(RunOperation(42));
     RunReadingFrame(42);
     EXPECT_TRUE(OperationDone);
-    EXPECT_EQ(visa->writes, std::vector<std::string>{":TRIGGER:STATUS?"});
+    EXPECT_EQ(visa->commands(), std::vector<std::string>{":TRIGGER:STATUS?"});
 }
 
 TEST_F(ReadingFrame, TableBeyondItsColumnsEndsByTheErrorPath)
@@ -126,7 +126,8 @@ TEST_F(ReadingFrame, WaveWindowClipsChannelsNotXy)
     RunReadingFrame(OperationWaveWindow);
     EXPECT_EQ(WaveRecords[0].WaveCH1[1], 250) << "X-Y codes are not clipped";
     EXPECT_EQ(WaveRecords[0].WaveCH2[1], 5);
-    EXPECT_EQ(std::count(visa->writes.begin(), visa->writes.end(), ":WAVEFORM:SCREENDATA? CHANNEL1"), 0);
+    const std::vector<std::string> sent = visa->commands();
+    EXPECT_EQ(std::count(sent.begin(), sent.end(), ":WAVEFORM:SCREENDATA? CHANNEL1"), 0);
 }
 
 TEST_F(ReadingFrame, WindowWithNoChannelReadsNoBlock)

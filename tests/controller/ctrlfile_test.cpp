@@ -4,7 +4,7 @@
 #include "controller/ctrlfile.h"
 #include "controller/ctrlstate.h"
 #include "platform/testplatform.h"
-#include "state/programstate.h"
+#include "support/freshstate.h"
 #include "text/language.h"
 #include "text/messages.h"
 
@@ -38,10 +38,8 @@ QByteArray goldenWithLine(int line, const QByteArray& text)
     return lines.join('\n');
 }
 
-class CtrlFileTest : public ::testing::Test {
+class CtrlFileTest : public FreshStateTest {
   protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
     QString path(const char* name) const { return dir.filePath(QString::fromLatin1(name)); }
 
     ScopedTestPlatform platform;

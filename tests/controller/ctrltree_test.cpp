@@ -5,7 +5,7 @@
 #include "controller/ctrlstate.h"
 #include "controller/ctrltree.h"
 #include "link/devicefacts.h"
-#include "state/programstate.h"
+#include "support/freshstate.h"
 #include "text/treewords.h"
 
 #include <QFile>
@@ -30,11 +30,8 @@ const CtrlNode* groupNode(const CtrlNode& root, int group)
     return nullptr;
 }
 
-class CtrlTreeTest : public ::testing::Test {
+class CtrlTreeTest : public FreshStateTest {
   protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
-
     // The Time Base and Trigger groups of every type in a language.
     QStringList layouts(int language)
     {

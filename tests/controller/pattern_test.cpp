@@ -3,17 +3,13 @@
 
 #include "controller/ctrlstate.h"
 #include "controller/pattern.h"
-#include "state/programstate.h"
+#include "support/freshstate.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-class PatternTest : public ::testing::Test {
-  protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
-};
+using PatternTest = FreshStateTest;
 
 TEST_F(PatternTest, WireTextFromCodes)
 {

@@ -1,17 +1,15 @@
 #include "frame/optionschoice.h"
-#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
-#include "state/programstate.h"
 #include "platform/testplatform.h"
+#include "settings/softwaresettings.h"
+#include "support/freshstate.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-class OptionsChoiceTest : public ::testing::Test {
+class OptionsChoiceTest : public FreshStateTest {
   protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
     ScopedTestPlatform test;
 };
 

@@ -1,16 +1,14 @@
-#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
-#include "state/programstate.h"
 #include "platform/testplatform.h"
+#include "settings/softwaresettings.h"
+#include "support/freshstate.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-class SoftwareSettings : public ::testing::Test {
+class SoftwareSettings : public FreshStateTest {
   protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
     ScopedTestPlatform test;
 };
 

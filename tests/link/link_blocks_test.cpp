@@ -2,7 +2,7 @@
 // screen picture, and the picture loop of the virtual panel. Malformed blocks
 // must never read outside their buffers.
 #include "acquire/blockdecode.h"
-#include "link_fakevisa.h"
+#include "link_fixture.h"
 
 #include "acquire/wavebytes.h"
 #include "acquire/waveparameter.h"

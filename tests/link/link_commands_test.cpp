@@ -1,7 +1,7 @@
 // WriteCmd, AskCmd and the VISA text routines: the gate, the pause, cut
 // replies, and what a failed write leaves behind.
 #include "acquire/blockdecode.h"
-#include "link_fakevisa.h"
+#include "link_fixture.h"
 
 #include "acquire/waveparameter.h"
 #include "link/linkcommands.h"
@@ -115,7 +115,7 @@ TEST_F(CommandTest, WriteCmdSendsTheLineAndPausesEvenWhenTheWriteFails)
 TEST_F(CommandTest, AskCmdReturnsTheReplyAsItCameWithoutPausing)
 {
     connectOverVisa();
-    visa->replies["*IDN?\n"] = "Korva Technologies,KV7204B,1,00.03.05\n";
+    visa->replies["*IDN?"] = "Korva Technologies,KV7204B,1,00.03.05\n";
     EXPECT_EQ(AskCmd("*IDN?"), "Korva Technologies,KV7204B,1,00.03.05\n");
     EXPECT_TRUE(platform->sleeps.isEmpty());
     EXPECT_TRUE(SuppressReadError);
@@ -126,8 +126,8 @@ TEST_F(CommandTest, LongRepliesAreCutAt256AndContinuedByTheNextRead)
     connectOverVisa();
     const std::string longReply = std::string(300, 'a') + "\n";
     const std::string exact = std::string(256, 'b') + "\n";
-    visa->replies[":LONG?\n"] = longReply;
-    visa->replies[":EXACT?\n"] = exact;
+    visa->replies[":LONG?"] = longReply;
+    visa->replies[":EXACT?"] = exact;
 
     EXPECT_EQ(AskCmd(":LONG?"), QString(256, 'a'));
     EXPECT_EQ(UsbRead(), QString(44, 'a') + "\n");

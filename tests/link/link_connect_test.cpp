@@ -1,13 +1,13 @@
 // ConnectDevice and DisconnectDevice over a fake VISA instrument: which
 // identities are accepted, what a refusal shows and leaves behind.
-#include "link_fakevisa.h"
+#include "link_fixture.h"
 
-#include "text/language.h"
-#include "text/messages.h"
 #include "link/connection.h"
 #include "link/devicefacts.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"
+#include "text/language.h"
+#include "text/messages.h"
 
 namespace {
 
@@ -27,8 +27,8 @@ class IdentityTable : public LinkTest, public ::testing::WithParamInterface<Iden
     void connectTo(const std::string& identity)
     {
         visa->resources = {"USB0::0x1234::0x5678::S0::INSTR"};
-        visa->replies["*IDN?\n"] = identity;
-        visa->replies[":MATH:DISPLAY?\n"] = "1\n";
+        visa->replies["*IDN?"] = identity;
+        visa->replies[":MATH:DISPLAY?"] = "1\n";
         ConnectDevice();
     }
 };
@@ -112,7 +112,7 @@ TEST_F(ConnectTest, ASupportedModelSeenOnceIsNeverForgotten)
 
 TEST_F(ConnectTest, AFailedOpenShowsOnlyItsOwnBox)
 {
-    visa->replies["*IDN?\n"] = "Korva Technologies,KV7204B,1,00.03.05\n";
+    visa->replies["*IDN?"] = "Korva Technologies,KV7204B,1,00.03.05\n";
     ConnectDevice(); // no resource found
     EXPECT_EQ(boxTexts(), QStringList{"Init|Can't Connect to Device!"});
     EXPECT_FALSE(Connected);

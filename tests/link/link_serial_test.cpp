@@ -1,7 +1,7 @@
 // The serial transport: the receive rules of a line and of a block, the
 // silence limit of Rs232Read, and writes, opens and queries on a real
 // pseudo-terminal.
-#include "link_fakevisa.h"
+#include "link_fixture.h"
 
 #include "link/linkcommands.h"
 #include "link/linkstate.h"

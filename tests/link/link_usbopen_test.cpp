@@ -1,12 +1,12 @@
 // UsbOpen: the find loop, the chooser for several resources, the kept choice,
 // the boxes, and the session's attributes.
-#include "link_fakevisa.h"
+#include "link_fixture.h"
 
-#include "text/language.h"
-#include "text/messages.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
 #include "link/usbtransport.h"
+#include "text/language.h"
+#include "text/messages.h"
 
 namespace {
 

@@ -1,21 +1,18 @@
 #include "acquire/waverecord.h"
 #include "analysis/datarecord.h"
-#include "text/language.h"
-#include "text/messages.h"
-#include "state/programstate.h"
+#include "document/sheetstate.h"
 #include "platform/testplatform.h"
 #include "sheet/sheetslots.h"
-#include "document/sheetstate.h"
+#include "support/freshstate.h"
+#include "text/language.h"
+#include "text/messages.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-class SheetSlotsTest : public ::testing::Test {
+class SheetSlotsTest : public FreshStateTest {
   protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
-
     void fill(SheetKind kind, int windows)
     {
         for (int i = 0; i < windows; ++i)

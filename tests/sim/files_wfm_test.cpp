@@ -1,6 +1,7 @@
 #include "files_littleendian.h"
 #include "wfmwriter.h"
 
+#include <QFile>
 #include <QList>
 #include <gtest/gtest.h>
 
@@ -105,110 +106,40 @@ TEST(WfmWriter, ModelIsCutAtTwentyCharacters)
     EXPECT_EQ(file.u8(24), 0);
 }
 
-struct PlacementCase {
-    const char* name;
-    std::uint8_t triggerKind;
-    bool longMemory;
-    int count;
-    std::array<bool, 4> enabled;
-    std::array<int, 4> offset; // where a reader finds channel n
-    std::array<int, 4> source; // whose samples it finds there; -1 none
-    int fileSize;
-};
-
-class WfmPlacement : public ::testing::TestWithParam<PlacementCase> {};
-
-TEST_P(WfmPlacement, ReaderFindsEachChannelWhereTheLayoutSays)
+// Every row of data/wfm_layouts.txt.
+TEST(WfmWriter, ReaderFindsEachChannelWhereTheLayoutSays)
 {
-    const PlacementCase& c = GetParam();
-    WfmContent content;
-    content.triggerKind = c.triggerKind;
-    content.longMemory = c.longMemory;
-    content.timeBaseA.sampleCount = c.count;
-    for (int n = 0; n < 4; ++n)
-        content.channels[n] =
-            channel(c.enabled[n], 1000000, 0, c.enabled[n] ? ramp(c.count, 1 + 60 * n) : QByteArray());
-    const LittleEndianImage file(writeWfm(content));
-    ASSERT_EQ(file.size(), c.fileSize);
-    for (int n = 0; n < 4; ++n) {
-        SCOPED_TRACE(n);
-        const QByteArray expected =
-            c.source[n] < 0 ? QByteArray(c.count, '\0') : ramp(c.count, 1 + 60 * c.source[n]);
-        EXPECT_EQ(file.bytes(c.offset[n], c.count), expected);
+    QFile layouts(QStringLiteral(SELVANE_TEST_DATA "/sim/data/wfm_layouts.txt"));
+    ASSERT_TRUE(layouts.open(QIODevice::ReadOnly | QIODevice::Text));
+    int cases = 0;
+    while (!layouts.atEnd()) {
+        const QByteArray line = layouts.readLine().trimmed();
+        if (line.isEmpty() || line.startsWith('#')) continue;
+        const QList<QByteArray> f = line.simplified().split(' ');
+        ASSERT_EQ(f.size(), 14) << line.constData();
+        SCOPED_TRACE(f[0].constData());
+        ++cases;
+        const int count = f[3].toInt();
+        WfmContent content;
+        content.triggerKind = std::uint8_t(f[1].toInt());
+        content.longMemory = f[2] == "1";
+        content.timeBaseA.sampleCount = count;
+        for (int n = 0; n < 4; ++n) {
+            const bool on = f[4][n] == '1';
+            content.channels[n] = channel(on, 1000000, 0, on ? ramp(count, 1 + 60 * n) : QByteArray());
+        }
+        const LittleEndianImage file(writeWfm(content));
+        ASSERT_EQ(file.size(), f[13].toInt());
+        for (int n = 0; n < 4; ++n) {
+            SCOPED_TRACE(n);
+            const QByteArray& source = f[9 + n];
+            const QByteArray expected =
+                source == "-" ? QByteArray(count, '\0') : ramp(count, 1 + 60 * source.toInt());
+            EXPECT_EQ(file.bytes(f[5 + n].toInt(), count), expected);
+        }
     }
+    EXPECT_EQ(cases, 8);
 }
-
-INSTANTIATE_TEST_SUITE_P(Layouts, WfmPlacement,
-                         ::testing::Values(
-                             // The pitch outside alternate trigger is the block, whatever the count.
-                             PlacementCase{"EdgeShortRecord",
-                                           0,
-                                           false,
-                                           600,
-                                           {true, true, true, true},
-                                           {420, 8612, 16804, 24996},
-                                           {0, 1, 2, 3},
-                                           33188},
-                             PlacementCase{"EdgeFullBlocks",
-                                           0,
-                                           false,
-                                           8192,
-                                           {true, true, true, true},
-                                           {420, 8612, 16804, 24996},
-                                           {0, 1, 2, 3},
-                                           33188},
-                             PlacementCase{"EdgeChannelOff",
-                                           3,
-                                           false,
-                                           4000,
-                                           {true, false, false, true},
-                                           {420, 8612, 16804, 24996},
-                                           {0, -1, -1, 3},
-                                           33188},
-                             // Long memory: neighbours read one block; the one that is on fills it.
-                             PlacementCase{"LongMemoryFirstOfPairs",
-                                           0,
-                                           true,
-                                           16384,
-                                           {true, false, true, false},
-                                           {420, 420, 16804, 16804},
-                                           {0, 0, 2, 2},
-                                           33188},
-                             PlacementCase{"LongMemorySecondOfPairs",
-                                           0,
-                                           true,
-                                           16384,
-                                           {false, true, false, true},
-                                           {420, 420, 16804, 16804},
-                                           {1, 1, 3, 3},
-                                           33188},
-                             // Alternate trigger: every channel keeps its place, on or off.
-                             PlacementCase{"AlternationAllOn",
-                                           4,
-                                           false,
-                                           1000,
-                                           {true, true, true, true},
-                                           {504, 1504, 2504, 3504},
-                                           {0, 1, 2, 3},
-                                           4504},
-                             PlacementCase{"AlternationGap",
-                                           4,
-                                           false,
-                                           700,
-                                           {true, false, true, false},
-                                           {504, 1204, 1904, 2604},
-                                           {0, -1, 2, -1},
-                                           3304},
-                             // Long memory means nothing in alternate trigger.
-                             PlacementCase{"AlternationIgnoresLongMemory",
-                                           4,
-                                           true,
-                                           500,
-                                           {true, true, false, true},
-                                           {504, 1004, 1504, 2004},
-                                           {0, 1, -1, 3},
-                                           2504}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(WfmWriter, SamplesLongerThanTheBlockStopAtItsEnd)
 {

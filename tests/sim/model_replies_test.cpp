@@ -1,91 +1,75 @@
 // Replies of the simulated instrument in the forms the program's download
-// and editors read, and how commands change (or refuse to change) them.
+// and editors read, and how commands and front-panel keys change (or refuse
+// to change) them.
 #include "instrument.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace {
 
-struct Exchange {
-    const char* query;
-    const char* reply;
-};
-
-class PowerOnReplyTest : public ::testing::TestWithParam<Exchange> {};
-
-TEST_P(PowerOnReplyTest, AnswersInTheFormTheDownloadReads)
+// Every line of data/replies.txt: the power-on replies, and each setting taking
+// a value, showing it in the next query and refusing nonsense.
+TEST(ReplyTable, PowerOnRepliesAndSettings)
 {
-    Instrument instrument;
-    EXPECT_EQ(instrument.handle(GetParam().query), QByteArray(GetParam().reply));
+    QFile table(QStringLiteral(SELVANE_TEST_DATA "/sim/data/replies.txt"));
+    ASSERT_TRUE(table.open(QIODevice::ReadOnly | QIODevice::Text));
+    int rows = 0;
+    while (!table.atEnd()) {
+        const QByteArray line = table.readLine().chopped(1);
+        if (line.isEmpty() || line.startsWith('#')) continue;
+        SCOPED_TRACE(line.constData());
+        ++rows;
+        const qsizetype afterKind = line.indexOf(' ');
+        const qsizetype afterQuery = line.indexOf(' ', afterKind + 1);
+        const QByteArray query = line.mid(afterKind + 1, afterQuery - afterKind - 1);
+        const QByteArray rest = line.mid(afterQuery + 1);
+        Instrument instrument;
+        if (line.startsWith("on ")) {
+            EXPECT_EQ(instrument.handle(query), rest + '\n');
+            continue;
+        }
+        const QByteArray header = query.left(query.indexOf('?'));
+        const QByteArray before = instrument.handle(query);
+        instrument.handle(header + " NONSENSE");
+        EXPECT_EQ(instrument.handle(query), before) << "a refused value changes nothing";
+        const QList<QByteArray> sentAndAnswered = rest.split('|');
+        EXPECT_TRUE(instrument.handle(header + ' ' + sentAndAnswered.first()).isEmpty());
+        EXPECT_EQ(instrument.handle(query), sentAndAnswered.last() + '\n');
+    }
+    EXPECT_EQ(rows, 61);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Download, PowerOnReplyTest,
-    ::testing::Values(
-        Exchange{"*IDN?", "KORVA TECHNOLOGIES,KV7204B,KV72040001,00.03.05.00.00\n"},
-        Exchange{":TRIGGER:STATUS?", "RUN\n"}, Exchange{":TIMEBASE:FORMAT?", "Y-T\n"},
-        Exchange{":TIMEBASE:SCALE?", "5.000e-04\n"}, Exchange{":TIMEBASE:OFFSET?", "0.000e+00\n"},
-        Exchange{":CHANNEL1:PROBE?", "1X\n"}, Exchange{":CHANNEL1:SCALE?", "1.000e+00\n"},
-        Exchange{":CHANNEL1:OFFSET?", "2.000e+00\n"}, Exchange{":CHANNEL2:COUPLING?", "DC\n"},
-        Exchange{":CHANNEL1:BWLIMIT?", "0\n"}, Exchange{":CHANNEL1:DISPLAY?", "1\n"},
-        Exchange{":CHANNEL3:DISPLAY?", "0\n"}, Exchange{":TRIGGER:MODE?", "EDGE\n"},
-        Exchange{":TRIGGER:HOLDOFF?", "5.000e-07\n"}, Exchange{":TRIGGER:EDGE:SOURCE?", "CHANNEL1\n"},
-        Exchange{":TRIGGER:EDGE:SLOPE?", "POSITIVE\n"}, Exchange{":TRIGGER:EDGE:SWEEP?", "AUTO\n"},
-        Exchange{":TRIGGER:SENSITIVITY?", "4.000e-01\n"}, Exchange{":TRIGGER:PULSE:MODE?", "+LESS THAN\n"},
-        Exchange{":TRIGGER:VIDEO:MODE?", "ALL LINES\n"}, Exchange{":TRIGGER:VIDEO:LINE?", "1\n"},
-        Exchange{":TRIGGER:HFRE?", "0\n"}, Exchange{":TRIGGER:ALTERNATION:SOURCE?", "CHANNEL1CHANNEL2\n"},
-        Exchange{":TRIGGER:ALTERNATION:TYPE?", "EDGE\n"},
-        Exchange{":TRIGGER:PATTERN:PATTERN?", "0,0,EXT,NONE,POSITIVE\n"},
-        Exchange{":ACQUIRE:MODE?", "RTIME\n"}, Exchange{":ACQUIRE:TYPE?", "NORMAL\n"},
-        Exchange{":ACQUIRE:AVERAGES?", "16\n"}, Exchange{":DISPLAY:TYPE?", "VECTORS\n"},
-        Exchange{":DISPLAY:PERSIST?", "0\n"}, Exchange{":DISPLAY:GRID?", "FULL\n"},
-        Exchange{":MATH:DISPLAY?", "0\n"}, Exchange{":WAVEFORM:SYSMEMSIZE?", "4000\n"}));
-
-class SetThenAskTest : public ::testing::TestWithParam<Exchange> {};
-
-// The command is the query without "?" and with the value; the reply is
-// what the next query must answer.
-TEST_P(SetThenAskTest, NextQueryShowsTheNewValue)
+// Every session of data/sessions.txt, each on a fresh instrument.
+TEST(Sessions, EveryQueryGetsItsReply)
 {
-    Instrument instrument;
-    const QByteArray query = GetParam().query;
-    const QByteArray header = query.left(query.indexOf('?'));
-    const QList<QByteArray> sentAndAnswered = QByteArray(GetParam().reply).split('|');
-    EXPECT_TRUE(instrument.handle(header + ' ' + sentAndAnswered.first()).isEmpty());
-    EXPECT_EQ(instrument.handle(query), sentAndAnswered.last() + '\n');
-}
-
-// "value|reply" where the reply differs from the value sent.
-INSTANTIATE_TEST_SUITE_P(
-    Commands, SetThenAskTest,
-    ::testing::Values(Exchange{":TIMEBASE:FORMAT?", "XY|X-Y"}, Exchange{":TIMEBASE:FORMAT?", "ROLL"},
-                      Exchange{":TIMEBASE:SCALE?", "2e-3|2.000e-03"},
-                      Exchange{":TIMEBASE:SCALE?", "500.0e-6|5.000e-04"},
-                      Exchange{":TIMEBASE:OFFSET?", "0.001|1.000e-03"}, Exchange{":CHANNEL2:PROBE?", "10X"},
-                      Exchange{":CHANNEL2:OFFSET?", "0.5|5.000e-01"}, Exchange{":CHANNEL2:COUPLING?", "GND"},
-                      Exchange{":CHANNEL4:DISPLAY?", "ON|1"}, Exchange{":TRIGGER:MODE?", "ALTERNATION"},
-                      Exchange{":TRIGGER:EDGE:SLOPE?", "NEGATIVE"}, Exchange{":TRIGGER:EDGE:SOURCE?", "EXT5"},
-                      Exchange{":TRIGGER:EDGE:LEVEL?", "0.4|4.000e-01"},
-                      Exchange{":TRIGGER:PULSE:MODE?", "-GREATERTHAN|-GREATER THAN"},
-                      Exchange{":TRIGGER:PULSE:WIDTH?", "2e-6|2.000e-06"},
-                      Exchange{":TRIGGER:VIDEO:MODE?", "ODDFIELD|ODD FIELD"},
-                      Exchange{":TRIGGER:VIDEO:STANDARD?", "PALSECAM|PAL/SECAM"},
-                      Exchange{":TRIGGER:DURATION:QUALIFIER?", "GREATERTHAN|GREATER THAN"},
-                      Exchange{":TRIGGER:COUPLING?", "LF"},
-                      Exchange{":TRIGGER:SENSITIVITY?", "0.40div|4.000e-01"},
-                      Exchange{":TRIGGER:HOLDOFF?", "1e-3|1.000e-03"}, Exchange{":ACQUIRE:MODE?", "ETIME"},
-                      Exchange{":ACQUIRE:TYPE?", "PEAKDETECT"}, Exchange{":ACQUIRE:AVERAGES?", "256"},
-                      Exchange{":DISPLAY:GRID?", "HALF"}, Exchange{":MATH:DISPLAY?", "ON|1"},
-                      Exchange{":FFT:DISPLAY?", "ON|1"}, Exchange{":RS232:BAUD?", "38400"}));
-
-// Values the instrument refuses leave the setting as it was.
-TEST_P(SetThenAskTest, RefusedValueChangesNothing)
-{
-    Instrument instrument;
-    const QByteArray query = GetParam().query;
-    const QByteArray before = instrument.handle(query);
-    instrument.handle(query.left(query.indexOf('?')) + " NONSENSE");
-    EXPECT_EQ(instrument.handle(query), before);
+    QFile file(QStringLiteral(SELVANE_TEST_DATA "/sim/data/sessions.txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
+    std::unique_ptr<Instrument> instrument;
+    QByteArray session;
+    int sessions = 0;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed();
+        if (line.isEmpty() || line.startsWith('#')) continue;
+        if (line.startsWith("== ")) {
+            session = line.mid(3);
+            instrument = std::make_unique<Instrument>();
+            ++sessions;
+            continue;
+        }
+        ASSERT_TRUE(instrument) << "a line before the first session";
+        SCOPED_TRACE((session + ": " + line).constData());
+        const qsizetype arrow = line.indexOf("=>");
+        if (arrow < 0) {
+            instrument->handle(line);
+            continue;
+        }
+        const QByteArray reply = line.mid(arrow + 2).trimmed();
+        EXPECT_EQ(instrument->handle(line.left(arrow).trimmed()),
+                  reply.isEmpty() ? QByteArray() : reply + '\n');
+    }
+    EXPECT_EQ(sessions, 12);
 }
 
 TEST(RefusedValueTest, OutOfRangeNumbersLeaveTheState)
@@ -107,66 +91,6 @@ TEST(RefusedValueTest, OutOfRangeNumbersLeaveTheState)
     EXPECT_EQ(state.trigger.edge.level, fresh.trigger.edge.level);
     EXPECT_EQ(state.baudRate, fresh.baudRate);
     EXPECT_EQ(state.trigger.pattern.value, fresh.trigger.pattern.value);
-}
-
-TEST(ChannelScaleTest, TakesInputVoltsAndAnswersDisplayedVolts)
-{
-    Instrument instrument;
-    instrument.handle(":CHANNEL1:PROBE 10X");
-    EXPECT_EQ(instrument.handle(":CHANNEL1:SCALE?"), "1.000e+01\n"); // the probe rescales the display
-    instrument.handle(":CHANNEL1:SCALE 50.0MV");
-    EXPECT_EQ(instrument.handle(":CHANNEL1:SCALE?"), "5.000e-01\n");
-    // The offset stays where it was on the screen: two divisions up.
-    EXPECT_EQ(instrument.handle(":CHANNEL1:OFFSET?"), "1.000e+00\n");
-}
-
-TEST(SpellingTest, MnemonicsIgnoreCaseAndTakeShortForms)
-{
-    Instrument instrument;
-    instrument.handle(":trigger:mode pulse");
-    instrument.handle(":TRIGGER:ALTERNATION:CURRentSOURce SOURceB");
-    instrument.handle(":Chan2:Scal 0.5");
-    EXPECT_EQ(instrument.handle(":TRIG:MODE?"), "PULSE\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:CURRENTSOURCE?"), "SOURCEB\n");
-    EXPECT_EQ(instrument.handle(":channel2:scale?"), "5.000e-01\n");
-}
-
-TEST(SpellingTest, OddCommandsKeptOnPurposeAreUnderstood)
-{
-    Instrument instrument;
-    instrument.handle(":TRIGGERPULSE:LEVEL 0.8");
-    instrument.handle(":TRIG:PATT:PATT 1,3,0");
-    instrument.handle(":TRIGGER:PATTERN:PATTERN 0,4,1,2,0");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PULSE:LEVEL?"), "8.000e-01\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:PATTERN?"), "0,4,EXT5,2,NEGATIVE\n");
-    instrument.handle(":TRIGGER:PATTERN:PATTERN 1,17,0,4,1");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:PATTERN?"), "1,17,EXT,EXT,POSITIVE\n");
-}
-
-TEST(PatternLevelTest, LevelsAreKeptPerInput)
-{
-    Instrument instrument;
-    instrument.handle(":TRIGGER:PATTERN:LEVEL 0.5,CHANNEL2");
-    instrument.handle(":TRIGGER:PATTERN:LEVEL EXT,-0.4");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:LEVEL? CHANNEL2"), "5.000e-01\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:LEVEL? EXT"), "-4.000e-01\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:PATTERN:LEVEL? CHANNEL1"), "0.000e+00\n");
-}
-
-TEST(AlternationTest, EachSourceKeepsItsOwnWindowAndTrigger)
-{
-    Instrument instrument;
-    instrument.handle(":TRIGGER:ALTERNATION:SOURCE CH2CH4");
-    instrument.handle(":TRIGGER:ALTERNATION:TIMESCALE 1e-3,SOURCEB");
-    instrument.handle(":TRIGGER:ALTERNATION:CURRENTSOURCE SOURCEB");
-    instrument.handle(":TRIGGER:ALTERNATION:TYPE PULSE");
-    instrument.handle(":TRIGGER:ALTERNATION:PULSE:TIME 3e-6");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:SOURCE?"), "CHANNEL2CHANNEL4\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:TIMESCALE? SOURCEB"), "1.000e-03\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:TIMESCALE? SOURCEA"), "5.000e-04\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:PULSE:TIME?"), "3.000e-06\n");
-    instrument.handle(":TRIGGER:ALTERNATION:SOURCE CHANNEL2"); // a single channel selects its source
-    EXPECT_EQ(instrument.handle(":TRIGGER:ALTERNATION:TYPE?"), "EDGE\n");
 }
 
 TEST(UnknownTest, UnknownQueriesGetNoReplyAndUnknownCommandsNoEffect)
@@ -193,16 +117,30 @@ TEST(ResetTest, RstRestoresPowerOnValues)
     EXPECT_EQ(after, before);
 }
 
-TEST(FormatTest, XyTurnsOnTheTwoChannelsItDrawsAndLeavesAlternation)
+TEST(KeysTest, KeyLockAndSweepKeys)
 {
     Instrument instrument;
-    instrument.handle(":TRIGGER:MODE ALTERNATION");
-    instrument.handle(":CHANNEL3:DISPLAY ON");
-    instrument.handle(":CHANNEL2:DISPLAY OFF");
-    instrument.handle(":TIMEBASE:FORMAT XY");
-    EXPECT_EQ(instrument.handle(":CHANNEL2:DISPLAY?"), "1\n");
-    EXPECT_EQ(instrument.handle(":CHANNEL3:DISPLAY?"), "0\n");
-    EXPECT_EQ(instrument.handle(":TRIGGER:MODE?"), "EDGE\n");
+    instrument.handle(":KEY:LOCK ENABLE");
+    EXPECT_TRUE(instrument.state().keyLocked);
+    instrument.handle(":KEY:LOCK DISABLE");
+    EXPECT_FALSE(instrument.state().keyLocked);
+    instrument.handle(":KEY:TRIGMODE");
+    EXPECT_EQ(instrument.handle(":TRIGGER:EDGE:SWEEP?"), "NORMAL\n");
+    instrument.handle(":KEY:TRIG_AUTO");
+    EXPECT_EQ(instrument.handle(":TRIGGER:EDGE:SWEEP?"), "AUTO\n");
+}
+
+TEST(KeysTest, ScreenPictureFollowsTheKeys)
+{
+    Instrument instrument;
+    const QByteArray before = instrument.handle(":DISPLAY:DATA?");
+    instrument.handle(":KEY:CH1_VOLT_DEC");
+    instrument.handle(":STOP");
+    const QByteArray after = instrument.handle(":DISPLAY:DATA?");
+    EXPECT_EQ(after.size(), before.size());
+    EXPECT_NE(after, before);
+    EXPECT_EQ(instrument.screenPicture().runText, "STOP");
+    EXPECT_EQ(instrument.screenPicture().traces[0].legend, "CH1 500mV");
 }
 
 } // namespace

@@ -1,7 +1,7 @@
+#include "platform/testplatform.h"
+#include "support/freshstate.h"
 #include "text/language.h"
 #include "text/messages.h"
-#include "state/programstate.h"
-#include "platform/testplatform.h"
 
 #include <gtest/gtest.h>
 
@@ -9,10 +9,8 @@ namespace {
 
 const QString section = QStringLiteral("Selvane_Language_KV7200B");
 
-class LanguageSetting : public ::testing::Test {
+class LanguageSetting : public FreshStateTest {
   protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
     ScopedTestPlatform test;
 };
 

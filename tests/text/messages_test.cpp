@@ -1,17 +1,13 @@
+#include "support/freshstate.h"
 #include "text/language.h"
 #include "text/messages.h"
-#include "state/programstate.h"
 
 #include <QSet>
 #include <gtest/gtest.h>
 
 namespace {
 
-class Messages : public ::testing::Test {
-  protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
-};
+using Messages = FreshStateTest;
 
 TEST_F(Messages, ASwitchOfLanguageReachesEveryMessage)
 {

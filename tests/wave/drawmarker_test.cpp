@@ -1,212 +1,51 @@
 #include "drawtesting.h"
 #include "wave/wavedrawing.h"
 
+#include <QFile>
+#include <QTextStream>
+
 namespace {
 
-struct MarkerCase {
-    const char* name;
-    int channel;
-    const char* offset; // with scale "1.00V": 4.00V gives y 0, -4.00V y 200, 1.00V y 75
-    const char* triggerMode;
-    const char* fftDisplay;
-    int8_t fftScreen;
-    const char* sourcePair; // reply to the alternate-trigger query
-    double zoom;
-    Path outline; // without the closing point
-    QPointF digit;
-    QPointF legend;
-};
-
-void PrintTo(const MarkerCase& c, std::ostream* os)
+Path shape(const QString& kind, double Y)
 {
-    *os << c.name;
-}
-
-// Shapes at zoom 1: below (down arrow) X 12, Y = 25 + row - 15; above (up arrow)
-// X 12, Y = 25 + row + 15; inside (pentagon) X 6, Y = 25 + L + y / div - 5.
-Path down(double Y)
-{
-    return {{12, Y}, {22, Y}, {22, Y + 13}, {17, Y + 17}, {12, Y + 13}};
-}
-Path up(double Y)
-{
-    return {{12, Y}, {22, Y}, {22, Y - 13}, {17, Y - 17}, {12, Y - 13}};
-}
-Path inside(double Y)
-{
+    if (kind == QLatin1String("down")) return {{12, Y}, {22, Y}, {22, Y + 13}, {17, Y + 17}, {12, Y + 13}};
+    if (kind == QLatin1String("up")) return {{12, Y}, {22, Y}, {22, Y - 13}, {17, Y - 17}, {12, Y - 13}};
     return {{6, Y}, {19, Y}, {23, Y + 5}, {19, Y + 10}, {6, Y + 10}};
 }
 
-const QPointF legend1(25, 228), legend2(100, 228), legend3(25, 238), legend4(100, 238);
-
-class DrawChannelMarkerTest : public ::testing::TestWithParam<MarkerCase> {};
-
-TEST_P(DrawChannelMarkerTest, ShapeDigitAndLegend)
+// Every row of data/channelmarkers.txt: the outline, the digit and the legend,
+// and the instrument asked for the source pair only in alternate trigger.
+TEST(DrawChannelMarker, ShapeDigitAndLegendOfEveryCase)
 {
-    const MarkerCase& c = GetParam();
-    ScriptedSourcePair pair(QString::fromLatin1(c.sourcePair));
-    RecordingSurface s;
-    DrawChannelMarker(WaveCanvas(s, c.zoom), c.channel, QString::fromLatin1(c.offset),
-                      QStringLiteral("1.00V"), QString::fromLatin1(c.triggerMode),
-                      QString::fromLatin1(c.fftDisplay), c.fftScreen);
-    EXPECT_EQ(PathOf(s.calls()), Closed(c.outline));
-    const std::vector<SurfaceCall> texts = TextsOf(s);
-    ASSERT_EQ(texts.size(), 2u);
-    EXPECT_EQ(texts[0].text, QString::number(c.channel));
-    EXPECT_EQ(texts[0].to, c.digit);
-    EXPECT_TRUE(texts[0].opaque);
-    EXPECT_EQ(texts[1].text, QStringLiteral("CH%1 1.00V").arg(c.channel));
-    EXPECT_EQ(texts[1].to, c.legend);
-    EXPECT_FALSE(texts[1].opaque);
-    const bool alt = QLatin1String(c.triggerMode) == QLatin1String("ALTERNATION");
-    EXPECT_EQ(pair.asked.size(), alt ? 1 : 0) << "the instrument is asked only in alternate trigger";
+    QFile file(QStringLiteral(SELVANE_TEST_DATA "/wave/data/channelmarkers.txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
+    QTextStream in(&file);
+    int cases = 0;
+    while (!in.atEnd()) {
+        const QString line = in.readLine();
+        if (line.startsWith(u'#') || line.trimmed().isEmpty()) continue;
+        const QStringList f = line.split(u' ', Qt::SkipEmptyParts);
+        ASSERT_EQ(f.size(), 14) << line.toStdString();
+        SCOPED_TRACE(f[0].toStdString());
+        ++cases;
+        const int channel = f[1].toInt();
+        ScriptedSourcePair pair(f[6] == QLatin1String("-") ? QString() : f[6]);
+        RecordingSurface s;
+        DrawChannelMarker(WaveCanvas(s, f[7].toDouble()), channel, f[2], QStringLiteral("1.00V"), f[3], f[4],
+                          int8_t(f[5].toInt()));
+        EXPECT_EQ(PathOf(s.calls()), Closed(shape(f[8], f[9].toDouble())));
+        const std::vector<SurfaceCall> texts = TextsOf(s);
+        ASSERT_EQ(texts.size(), 2u);
+        EXPECT_EQ(texts[0].text, QString::number(channel));
+        EXPECT_EQ(texts[0].to, QPointF(f[10].toDouble(), f[11].toDouble()));
+        EXPECT_TRUE(texts[0].opaque);
+        EXPECT_EQ(texts[1].text, QStringLiteral("CH%1 1.00V").arg(channel));
+        EXPECT_EQ(texts[1].to, QPointF(f[12].toDouble(), f[13].toDouble()));
+        EXPECT_FALSE(texts[1].opaque);
+        EXPECT_EQ(pair.asked.size(), f[3] == QLatin1String("ALTERNATION") ? 1 : 0);
+    }
+    EXPECT_EQ(cases, 29);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Markers, DrawChannelMarkerTest,
-    ::testing::Values(
-        // Exactly four divisions above the centre is y 0: the up arrow; below, y 200: the down arrow.
-        MarkerCase{"Ch1Above", 1, "4.00V", "EDGE", "OFF", 1, "", 1, up(40), {14, 27}, legend1},
-        MarkerCase{"Ch2AboveDigitOneHigher", 2, "4.00V", "EDGE", "OFF", 1, "", 1, up(40), {14, 26}, legend2},
-        MarkerCase{"Ch3Above", 3, "4.00V", "EDGE", "OFF", 1, "", 1, up(40), {14, 27}, legend3},
-        MarkerCase{
-            "Ch1BelowDigitOneLower", 1, "-4.00V", "EDGE", "OFF", 1, "", 1, down(210), {14, 212}, legend1},
-        MarkerCase{"Ch4Below", 4, "-4.00V", "EDGE", "OFF", 1, "", 1, down(210), {14, 211}, legend4},
-        MarkerCase{"Ch2Inside", 2, "1.00V", "EDGE", "OFF", 1, "", 1, inside(95), {10, 94}, legend2},
-        MarkerCase{"Ch3Centre", 3, "0.00V", "EDGE", "OFF", 1, "", 1, inside(120), {10, 119}, legend3},
-        // A shared spectrum halves the screen: inside rows halve, CH1's bottom
-        // clip and CH4's top clip move to the middle, CH4's bottom clip does not.
-        MarkerCase{"Ch1InsideSplit", 1, "1.00V", "EDGE", "ON", 0, "", 1, inside(57.5), {10, 56.5}, legend1},
-        MarkerCase{"Ch1BelowSplit", 1, "-4.00V", "EDGE", "ON", 0, "", 1, down(110), {14, 112}, legend1},
-        MarkerCase{"Ch4AboveSplit", 4, "4.00V", "EDGE", "ON", 0, "", 1, up(140), {14, 127}, legend4},
-        MarkerCase{"Ch4BelowSplit", 4, "-4.00V", "EDGE", "ON", 0, "", 1, down(210), {14, 211}, legend4},
-        MarkerCase{
-            "Ch4InsideSplitStaysUp", 4, "1.00V", "EDGE", "ON", 0, "", 1, inside(57.5), {10, 56.5}, legend4},
-        // Alternate trigger: CH2 and CH3 change halves with the pair's order.
-        MarkerCase{
-            "AltCh1", 1, "1.00V", "ALTERNATION", "OFF", 1, "CH3CH4", 1, inside(57.5), {10, 56.5}, legend1},
-        MarkerCase{"AltCh2Ordered",
-                   2,
-                   "1.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "CH1CH2",
-                   1,
-                   inside(157.5),
-                   {10, 156.5},
-                   legend2},
-        MarkerCase{"AltCh2NotOrdered",
-                   2,
-                   "1.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "CH2CH3",
-                   1,
-                   inside(57.5),
-                   {10, 56.5},
-                   legend2},
-        MarkerCase{"AltCh3Ordered",
-                   3,
-                   "1.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "chan3chan4",
-                   1,
-                   inside(57.5),
-                   {10, 56.5},
-                   legend3},
-        MarkerCase{"AltCh3NotOrdered",
-                   3,
-                   "1.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "CH2CH3",
-                   1,
-                   inside(157.5),
-                   {10, 156.5},
-                   legend3},
-        MarkerCase{
-            "AltCh4", 4, "1.00V", "ALTERNATION", "OFF", 1, "CH1CH4", 1, inside(157.5), {10, 156.5}, legend4},
-        MarkerCase{"AltCh2BelowNotOrdered",
-                   2,
-                   "-4.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "CH2CH3",
-                   1,
-                   down(110),
-                   {14, 111},
-                   legend2},
-        MarkerCase{"AltCh2BelowOrdered",
-                   2,
-                   "-4.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "CH1CH2",
-                   1,
-                   down(210),
-                   {14, 211},
-                   legend2},
-        MarkerCase{"AltCh2AboveOrdered",
-                   2,
-                   "4.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "CH1CH2",
-                   1,
-                   up(140),
-                   {14, 126},
-                   legend2},
-        MarkerCase{"AltCh3BelowOrdered",
-                   3,
-                   "-4.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "CH3CH4",
-                   1,
-                   down(110),
-                   {14, 111},
-                   legend3},
-        MarkerCase{"AltCh3AboveNotOrdered",
-                   3,
-                   "4.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "CH2CH3",
-                   1,
-                   up(140),
-                   {14, 127},
-                   legend3},
-        MarkerCase{
-            "AltCh1Below", 1, "-4.00V", "ALTERNATION", "OFF", 1, "CH1CH2", 1, down(110), {14, 112}, legend1},
-        MarkerCase{
-            "AltCh4Above", 4, "4.00V", "ALTERNATION", "OFF", 1, "CH1CH2", 1, up(140), {14, 127}, legend4},
-        // Zoom scales rows and the lower half's lift (100z, rounded half to even).
-        MarkerCase{"Zoom2Inside", 1, "1.00V", "EDGE", "OFF", 1, "", 2, inside(170), {10, 169}, {25, 431}},
-        MarkerCase{
-            "Zoom2AltCh4", 4, "1.00V", "ALTERNATION", "OFF", 1, "", 2, inside(295), {10, 294}, {175, 451}},
-        MarkerCase{"Zoom2Below", 3, "-4.00V", "EDGE", "OFF", 1, "", 2, down(410), {14, 411}, {25, 451}},
-        MarkerCase{"LiftRoundsToEven",
-                   4,
-                   "1.00V",
-                   "ALTERNATION",
-                   "OFF",
-                   1,
-                   "",
-                   0.125,
-                   inside(36.6875),
-                   {10, 35.6875},
-                   {34.375, 51.625}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(DrawChannelMarker, ZeroScaleDrawsNothing)
 {

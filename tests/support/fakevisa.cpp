@@ -1,6 +1,5 @@
-#include "link_fakevisa.h"
+#include "support/fakevisa.h"
 
-#include "link/devicefacts.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
@@ -15,6 +14,12 @@ namespace {
 void copyName(const std::string& name, char description[VI_FIND_BUFLEN])
 {
     std::strncpy(description, name.c_str(), VI_FIND_BUFLEN - 1);
+}
+
+std::string withoutLineFeed(std::string line)
+{
+    if (!line.empty() && line.back() == '\n') line.pop_back();
+    return line;
 }
 
 } // namespace
@@ -81,7 +86,8 @@ ViStatus FakeVisa::write(ViSession, const ViByte* buffer, ViUInt32 size, ViUInt3
     calls.push_back("write");
     writes.push_back(bytes);
     *count = writeStatus == VI_SUCCESS ? size : 0;
-    if (writeStatus == VI_SUCCESS && replies.count(bytes)) pending += replies[bytes];
+    const auto reply = replies.find(withoutLineFeed(bytes));
+    if (writeStatus == VI_SUCCESS && reply != replies.end()) pending += reply->second;
     return writeStatus;
 }
 
@@ -106,13 +112,21 @@ ViStatus FakeVisa::getAttribute(ViObject, ViAttr attribute, void* value)
     return VI_SUCCESS;
 }
 
+std::vector<std::string> FakeVisa::commands() const
+{
+    std::vector<std::string> lines;
+    for (const std::string& bytes : writes)
+        lines.push_back(withoutLineFeed(bytes));
+    return lines;
+}
+
 int FakeVisa::countOf(const std::string& call) const
 {
     return int(std::count_if(calls.begin(), calls.end(),
                              [&](const std::string& made) { return made.rfind(call, 0) == 0; }));
 }
 
-LinkTest::LinkTest()
+FakeVisaTest::FakeVisaTest()
 {
     ResetProgramState();
     auto fake = std::make_unique<FakeVisa>();
@@ -122,7 +136,7 @@ LinkTest::LinkTest()
     visa->calls.clear();
 }
 
-LinkTest::~LinkTest()
+FakeVisaTest::~FakeVisaTest()
 {
     InstallVisaLibrary(std::move(previous_));
     InstallResourceChooser({});
@@ -131,7 +145,7 @@ LinkTest::~LinkTest()
     ResetProgramState();
 }
 
-void LinkTest::connectOverVisa()
+void FakeVisaTest::connectOverVisa()
 {
     TransportType = TransportVisa;
     VisaSession = FakeVisa::Session;
@@ -139,7 +153,7 @@ void LinkTest::connectOverVisa()
     LinkLampOn = true;
 }
 
-QStringList LinkTest::boxTexts() const
+QStringList FakeVisaTest::boxTexts() const
 {
     QStringList texts;
     for (const RecordedBox& box : platform->boxes)

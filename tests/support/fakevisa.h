@@ -1,10 +1,12 @@
 #pragma once
-// A resource manager for the link's unit tests: a scripted list of resources,
-// an instrument that answers known queries, and a record of every call.
+// A scripted VISA library for unit tests: a list of resources, an instrument that
+// answers known commands, forced statuses, and a record of every call and write.
+// FakeVisaTest puts it in place of the real library over a fresh program state.
 
 #include "link/visalibrary.h"
 #include "platform/testplatform.h"
 
+#include <QStringList>
 #include <gtest/gtest.h>
 
 #include <map>
@@ -19,14 +21,14 @@ class FakeVisa : public VisaLibrary {
     static constexpr ViFindList FindList = 33;
 
     std::vector<std::string> resources;         // what the find lists
-    std::map<std::string, std::string> replies; // query line (with its line feed) -> reply bytes
+    std::map<std::string, std::string> replies; // command without its line feed -> reply bytes
     std::string pending;                        // bytes waiting to be read
     std::vector<ViStatus> readStatuses;         // forced statuses of the next reads, first first
     ViStatus openStatus = VI_SUCCESS;
     ViStatus writeStatus = VI_SUCCESS;
 
-    std::vector<std::string> calls;  // "findRsrc", "findNext", "open NAME", "clear 22", "close 22", ...
-    std::vector<std::string> writes; // the bytes of every write
+    std::vector<std::string> calls;  // "findRsrc PATTERN", "findNext", "open NAME", "clear 22", ...
+    std::vector<std::string> writes; // the bytes of every write, line feed included
     std::map<ViAttr, ViAttrState> attributes;
 
     ViStatus openDefaultRM(ViSession* manager) override;
@@ -42,18 +44,20 @@ class FakeVisa : public VisaLibrary {
     ViStatus setAttribute(ViObject object, ViAttr attribute, ViAttrState value) override;
     ViStatus getAttribute(ViObject object, ViAttr attribute, void* value) override;
 
+    // The commands written, each without its line feed.
+    std::vector<std::string> commands() const;
     int countOf(const std::string& call) const;
 
   private:
     size_t nextFound_ = 1;
 };
 
-// Every link test starts from a fresh program state, a recording platform and
-// the fake in place of the VISA library; the link's hooks are put back after.
-class LinkTest : public ::testing::Test {
+// A fresh program state, a recording platform and the fake in place of the VISA
+// library, its resource manager open; everything is put back after.
+class FakeVisaTest : public ::testing::Test {
   protected:
-    LinkTest();
-    ~LinkTest() override;
+    FakeVisaTest();
+    ~FakeVisaTest() override;
 
     // The link as ConnectDevice leaves it over VISA.
     void connectOverVisa();

@@ -1,42 +1,6 @@
-#include "reading_fakevisa.h"
+#include "reading_fixture.h"
 
 #include "link/linkstate.h"
-#include "state/programstate.h"
-
-#include <algorithm>
-#include <cstring>
-
-ViStatus ReadingVisa::openDefaultRM(ViSession* manager)
-{
-    *manager = 1;
-    return VI_SUCCESS;
-}
-
-ViStatus ReadingVisa::findRsrc(ViSession, const char*, ViFindList*, ViUInt32* count, char*)
-{
-    *count = 0;
-    return VI_ERROR_RSRC_NFOUND;
-}
-
-ViStatus ReadingVisa::read(ViSession, ViByte* buffer, ViUInt32 size, ViUInt32* count)
-{
-    const size_t taken = std::min<size_t>(size, pending.size());
-    std::memcpy(buffer, pending.data(), taken);
-    pending.erase(0, taken);
-    *count = ViUInt32(taken);
-    return taken == 0 ? VI_ERROR_TMO : VI_SUCCESS;
-}
-
-ViStatus ReadingVisa::write(ViSession, const ViByte* buffer, ViUInt32 size, ViUInt32* count)
-{
-    std::string line(reinterpret_cast<const char*>(buffer), size);
-    if (!line.empty() && line.back() == '\n') line.pop_back();
-    writes.push_back(line);
-    const auto found = replies.find(line);
-    if (found != replies.end()) pending = found->second;
-    *count = size;
-    return VI_SUCCESS;
-}
 
 namespace {
 
@@ -75,12 +39,8 @@ std::string Block(const std::string& data)
 
 ReadingTest::ReadingTest()
 {
-    ResetProgramState();
-    auto fake = std::make_unique<ReadingVisa>();
-    visa = fake.get();
-    previous_ = InstallVisaLibrary(std::move(fake));
     Connected = true;
-    VisaSession = 2;
+    VisaSession = FakeVisa::Session;
     answer(":TRIGGER:STATUS?", "STOP\n");
     answer(":MATH:DISPLAY?", "0\n");
     answer(":TRIGGER:MODE?", "EDGE\n");
@@ -93,10 +53,4 @@ ReadingTest::ReadingTest()
         answer(std::string(":CHANNEL") + n + ":OFFSET?", "0.000e+00\n");
         answer(std::string(":CHANNEL") + n + ":INVERT?", "0\n");
     }
-}
-
-ReadingTest::~ReadingTest()
-{
-    InstallVisaLibrary(std::move(previous_));
-    ResetProgramState();
 }

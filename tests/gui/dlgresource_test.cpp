@@ -1,12 +1,12 @@
 // DlgResource: captions in both languages, the rows, and how OK, Cancel and a
 // double click end it.
-#include "link_fakevisa.h"
+#include "support/fakevisa.h"
 
-#include "text/language.h"
 #include "link/frmDlgResource.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
 #include "link/usbtransport.h"
+#include "text/language.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -17,7 +17,7 @@
 
 namespace {
 
-using DlgResourceTest = LinkTest;
+using DlgResourceTest = FakeVisaTest;
 
 const QStringList rows{"USB0::0x1234::0x5678::A::INSTR", "TCPIP0::10.0.0.9::inst0::INSTR", ""};
 

@@ -1,0 +1,223 @@
+// Every call in data/texttables.txt: the keywords, ladder texts, parsers, masks and
+// measure texts, each row a routine, its arguments and what it must give.
+#include "text/formatmask.h"
+#include "text/keywords.h"
+#include "text/valuetext.h"
+#include "textcase.h"
+
+#include <QFile>
+#include <QHash>
+#include <cmath>
+#include <functional>
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace {
+
+// A line split into blank-separated fields; a quoted field keeps its blanks and
+// takes \n and \t escapes.
+QStringList fieldsOf(const QString& line)
+{
+    QStringList fields;
+    qsizetype i = 0;
+    while (i < line.size()) {
+        if (line[i].isSpace()) {
+            ++i;
+            continue;
+        }
+        QString field;
+        if (line[i] == u'"') {
+            for (++i; i < line.size() && line[i] != u'"'; ++i) {
+                if (line[i] == u'\\' && i + 1 < line.size()) {
+                    const QChar next = line[++i];
+                    field += next == u'n' ? QChar(u'\n') : next == u't' ? QChar(u'\t') : next;
+                } else {
+                    field += line[i];
+                }
+            }
+            ++i;
+        } else {
+            while (i < line.size() && !line[i].isSpace())
+                field += line[i++];
+        }
+        fields.append(field);
+    }
+    return fields;
+}
+
+double number(const QString& text)
+{
+    if (text == QLatin1String("inf")) return std::numeric_limits<double>::infinity();
+    if (text == QLatin1String("-inf")) return -std::numeric_limits<double>::infinity();
+    if (text == QLatin1String("nan")) return std::nan("");
+    return text.toDouble();
+}
+
+QString exact(double value)
+{
+    return QString::number(value, 'g', 17);
+}
+
+struct Routine {
+    int arguments;
+    std::function<QStringList(const QStringList&)> run;
+    bool givesNumber = false; // the first result is compared as a double
+};
+
+using Text = QString (*)(const QString&);
+using Keyword = QString (*)(const QString&, int);
+using Parser = double (*)(const QString&);
+using Parts = MeasureText (*)(double);
+
+Routine text(Text f)
+{
+    return {1, [f](const QStringList& a) { return QStringList{f(a[0])}; }};
+}
+
+Routine keyword(Keyword f)
+{
+    return {2, [f](const QStringList& a) { return QStringList{f(a[0], a[1].toInt())}; }};
+}
+
+// The parser must set the flag either way, so it runs once from each state.
+Routine parser(Parser f)
+{
+    return {1,
+            [f](const QStringList& a) {
+                ValueValid = false;
+                const double value = f(a[0]);
+                const bool fromFalse = ValueValid;
+                ValueValid = true;
+                f(a[0]);
+                if (ValueValid != fromFalse) return QStringList{exact(value), QStringLiteral("unsteady")};
+                return QStringList{exact(value), QLatin1String(fromFalse ? "valid" : "invalid")};
+            },
+            true};
+}
+
+Routine parts(Parts f)
+{
+    return {1, [f](const QStringList& a) {
+                const MeasureText m = f(number(a[0]));
+                return QStringList{m.number, QString::number(m.unitIndex), m.text()};
+            }};
+}
+
+const QHash<QString, Routine>& routines()
+{
+    static const QHash<QString, Routine> all = [] {
+        QHash<QString, Routine> r;
+#define KEYWORD(name) r.insert(QStringLiteral(#name), keyword(name))
+        KEYWORD(RunStateToWire);
+        KEYWORD(RunStateFromReply);
+        KEYWORD(OnOffToWire);
+        KEYWORD(OnOffFromReply);
+        KEYWORD(HfRejectFromReply);
+        KEYWORD(SamplingToWire);
+        KEYWORD(SamplingFromReply);
+        KEYWORD(AcquisitionToWire);
+        KEYWORD(AcquisitionFromReply);
+        KEYWORD(DisplayTypeToWire);
+        KEYWORD(DisplayTypeFromReply);
+        KEYWORD(GridToWire);
+        KEYWORD(GridFromReply);
+        KEYWORD(TriggerTypeToWire);
+        KEYWORD(TriggerTypeFromReply);
+        KEYWORD(SweepToWire);
+        KEYWORD(SweepFromReply);
+        KEYWORD(CouplingToWire);
+        KEYWORD(CouplingFromReply);
+        KEYWORD(EdgeSlopeToWire);
+        KEYWORD(EdgeSlopeFromReply);
+        KEYWORD(PulseModeToWire);
+        KEYWORD(PulseModeFromReply);
+        KEYWORD(SlopeModeToWire);
+        KEYWORD(SlopeModeFromReply);
+        KEYWORD(VideoPolarityToWire);
+        KEYWORD(VideoPolarityFromReply);
+        KEYWORD(VideoSyncToWire);
+        KEYWORD(VideoSyncFromReply);
+        KEYWORD(DurationQualifierFromReply);
+        KEYWORD(TriggerSourceToWire);
+        KEYWORD(TriggerSourceFromReply);
+#undef KEYWORD
+#define TEXT(name) r.insert(QStringLiteral(#name), text(name))
+        TEXT(TimeText3);
+        TEXT(TimeText4);
+        TEXT(TimeText5);
+        TEXT(VoltText3);
+        TEXT(FreqText);
+        TEXT(DbText);
+        TEXT(PercentText);
+        TEXT(PercentTextOf100);
+#undef TEXT
+        r.insert("ParseTimeText", parser(ParseTimeText));
+        r.insert("ParseVoltText", parser(ParseVoltText));
+        r.insert("ParseMeasureVoltText", parser(ParseMeasureVoltText));
+        r.insert("ParseFreqText", parser(ParseFreqText));
+        r.insert("ParsePercentText", parser(ParsePercentText));
+        r.insert("MeasureVoltParts", parts(MeasureVoltParts));
+        r.insert("MeasureTimeParts", parts(MeasureTimeParts));
+        r.insert("MeasureFreqParts", parts(MeasureFreqParts));
+        r.insert("MeasureRatioParts", parts(MeasureRatioParts));
+        r.insert("TimeTextToExponent",
+                 {1, [](const QStringList& a) {
+                      const QString text = TimeTextToExponent(a[0]);
+                      return QStringList{text, QLatin1String(ValueValid ? "valid" : "invalid")};
+                  }});
+        r.insert("Val", {1, [](const QStringList& a) { return QStringList{exact(Val(a[0]))}; }, true});
+        r.insert("LevelDivText",
+                 {2, [](const QStringList& a) { return QStringList{LevelDivText(a[0], a[1])}; }});
+        r.insert("ProbeScaleToOneX",
+                 {2, [](const QStringList& a) { return QStringList{ProbeScaleToOneX(a[0], a[1])}; }});
+        r.insert("ExactTimeText",
+                 {1, [](const QStringList& a) { return QStringList{ExactTimeText(number(a[0]))}; }});
+        r.insert("ExactTimeWireText",
+                 {1, [](const QStringList& a) { return QStringList{ExactTimeWireText(number(a[0]))}; }});
+        r.insert("FormatMask",
+                 {2, [](const QStringList& a) { return QStringList{FormatMask(number(a[0]), a[1])}; }});
+        r.insert("GeneralFormat",
+                 {1, [](const QStringList& a) { return QStringList{GeneralFormat(number(a[0]))}; }});
+        return r;
+    }();
+    return all;
+}
+
+TEST(TextTables, EveryRowGivesItsResult)
+{
+    QFile file(QStringLiteral(SELVANE_TEST_DATA "/text/data/texttables.txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
+    int rows = 0;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        if (line.trimmed().isEmpty() || line.startsWith(u'#')) continue;
+        SCOPED_TRACE(line.toStdString());
+        const QStringList fields = fieldsOf(line);
+        ASSERT_FALSE(fields.isEmpty());
+        const auto found = routines().constFind(fields[0]);
+        ASSERT_NE(found, routines().constEnd()) << "unknown routine";
+        const Routine& routine = *found;
+        ASSERT_GT(fields.size(), 1 + routine.arguments);
+        const QStringList expected = fields.mid(1 + routine.arguments);
+        const QStringList actual = routine.run(fields.mid(1, routine.arguments));
+        ASSERT_EQ(actual.size(), expected.size());
+        for (qsizetype i = 0; i < actual.size(); ++i) {
+            if (i == 0 && routine.givesNumber)
+                EXPECT_DOUBLE_EQ(actual[0].toDouble(), number(expected[0]));
+            else
+                EXPECT_EQ(actual[i], expected[i]);
+        }
+        ++rows;
+    }
+    EXPECT_EQ(rows, 456);
+}
+
+TEST(MeasureText, FullTextsMatchTheirParts)
+{
+    EXPECT_EQ(MeasureVoltText(0), QStringLiteral("0.000uV"));
+    EXPECT_EQ(MeasureTimeText(-0.5), QStringLiteral("-500.000ms"));
+    EXPECT_EQ(MeasureFreqText(-1), QStringLiteral("???.?Hz"));
+    EXPECT_EQ(MeasureRatioText(0.25), QStringLiteral("25.00%"));
+    EXPECT_EQ(MeasureFreqParts(1000).unit, QStringLiteral("KHz"));
+}
+
+} // namespace
