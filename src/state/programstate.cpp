@@ -6,6 +6,7 @@
 #include "controller/ctrlstate.h"
 #include "frame/framestate.h"
 #include "link/linkstate.h"
+#include "panel/panelstate.h"
 #include "sheet/sheetstate.h"
 #include "text/language.h"
 #include "wave/fftsetting.h"
@@ -23,4 +24,5 @@ void ResetProgramState()
     ResetLinkState();
     ResetWaveRefreshState();
     ResetFftPlaceholders();
+    ResetPanelState();
 }
