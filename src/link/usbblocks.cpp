@@ -1,6 +1,5 @@
 #include "acquire/wavebytes.h"
 #include "acquire/waveparameter.h"
-#include "text/messages.h"
 #include "link/linkcommands.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"
@@ -8,6 +7,7 @@
 #include "link/visalibrary.h"
 #include "link/vocabulary.h"
 #include "platform/platform.h"
+#include "text/messages.h"
 
 #include <algorithm>
 #include <array>
@@ -109,5 +109,6 @@ void ReadDisplayData(QByteArray& bytes)
         if (count == ScreenPictureSize) break;
         WriteCmd(ask);
         DoEvents();
-    } while (PanelRunFlagsSet && PanelRunFlagsSet());
+        // A lost link answers nothing more: asking again would never end.
+    } while (LinkGateOpen() && PanelRunFlagsSet && PanelRunFlagsSet());
 }
