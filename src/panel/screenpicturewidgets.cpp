@@ -21,7 +21,12 @@ void ScreenPictureBox::AddPic(const char* data, int length)
 void ScreenPictureBox::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    if (image_.isNull()) return painter.fillRect(rect(), Qt::black);
+    painter.fillRect(rect(), Qt::black);
+    if (image_.isNull()) return;
+    // As large as the control allows, the screen's proportions kept.
+    const QSize shown = image_.size().scaled(size(), Qt::KeepAspectRatio);
+    QRect target(QPoint(), shown);
+    target.moveCenter(rect().center());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(rect(), image_);
+    painter.drawImage(target, image_);
 }

@@ -1,6 +1,6 @@
 #pragma once
 // The picture control of the virtual panel: takes the bitmap file image of the
-// instrument's screen from memory and shows it scaled to the control.
+// instrument's screen from memory and shows it scaled to the control, its proportions kept.
 
 #include <QImage>
 #include <QWidget>
@@ -14,7 +14,7 @@ class ScreenPictureBox : public QWidget {
     void AddPic(const char* data, int length);
     const QImage& image() const { return image_; }
 
-    QSize sizeHint() const override { return {640, 480}; }
+    QSize sizeHint() const override { return {480, 360}; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
