@@ -8,6 +8,7 @@
 #include "link/linkstate.h"
 #include "panel/frmV_Key.h"
 #include "panel/frmV_Panel.h"
+#include "panel/keypress.h"
 #include "panel/keysetwidgets.h"
 #include "panel/keytable.h"
 #include "panel/panelstate.h"
@@ -91,6 +92,19 @@ TEST_F(KeyboardTest, PanelSendsTheBareOffKeyAndNoClickForTheFunctionKnob)
     ClickButton(control<QAbstractButton>(panel, "VK_F_DEC"));
     ClickButton(control<QAbstractButton>(panel, "VK_H_Pos_Dec"));
     const QStringList expected{":KEY", ":KEY:FUNC_DEC 0", ":KEY:TIME_POS_DEC 0", ":KEY:TIME_POS_DEC"};
+    EXPECT_EQ(sentSinceConnect(int(expected.size())), expected);
+}
+
+TEST_F(KeyboardTest, OperationsForOtherWindowsSendTheirKeys)
+{
+    connectSim();
+    const QStringList expected{
+        ":KEY:ACQUIRE",   ":KEY:AUTO",     ":KEY:CH1",    ":KEY:CH2",     ":KEY:CURSOR",  ":KEY:DISPLAY",
+        ":KEY:F1",        ":KEY:F2",       ":KEY:F3",     ":KEY:F4",      ":KEY:F5",      ":KEY:MATH",
+        ":KEY:MEASURE",   ":KEY:REF",      ":KEY:RUN",    ":KEY:STORAGE", ":KEY:MNUTIME", ":KEY:TRIG%50",
+        ":KEY:TRIGFORCE", ":KEY:TRIGMENU", ":KEY:UTILITY"};
+    for (int key = 0; key <= int(PanelKey::Utility); ++key)
+        PressPanelKey(PanelKey(key));
     EXPECT_EQ(sentSinceConnect(int(expected.size())), expected);
 }
 
