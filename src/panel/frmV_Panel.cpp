@@ -12,6 +12,7 @@
 #include "text/language.h"
 #include "wave/pictureexport.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFrame>
 #include <QGroupBox>
@@ -156,15 +157,25 @@ void frmV_Panel::runScreenLoop()
         while (self && PanelRunsScreen()) {
             DrawBulkWave();
             DoEvents();
-            if (self && (!Connected || !isVisible())) close();
+            if (self) closeIfGone();
+            if (self && !LinkGateOpen()) Sleep(IdlePause); // nothing to fetch
         }
         if (!self) return;
         DoEvents();
+        if (self) closeIfGone();
         if (self && PanelFlags.PanelOpen) Sleep(IdlePause);
     }
     if (!self) return;
     loopRunning_ = false;
     deleteLater();
+}
+
+// A link that was up and has gone ends the panel; so does a window hidden with
+// its parent, whose loop would otherwise keep the program from ending.
+void frmV_Panel::closeIfGone()
+{
+    linkSeen_ = linkSeen_ || Connected;
+    if ((linkSeen_ && !Connected) || !isVisible()) close();
 }
 
 void frmV_Panel::showRunState()
@@ -224,4 +235,12 @@ frmV_Panel* ShowVirtualPanel(QWidget* parent)
     open->raise();
     open->activateWindow();
     return open;
+}
+
+void CloseVirtualPanelWindows()
+{
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == QLatin1String("frmV_Panel") ||
+            window->objectName() == QLatin1String("frmV_Key"))
+            window->close();
 }

@@ -47,6 +47,7 @@ class frmV_Panel : public QWidget, public PrintablePicture {
     QWidget* buildScreenSide();
     void tDrawBmp_Timer();
     void runScreenLoop();
+    void closeIfGone();
     void showRunState();
     void cmdRun_Click();
     void cmdStop_Click();
@@ -63,4 +64,5 @@ class frmV_Panel : public QWidget, public PrintablePicture {
     KeySetWidgets* keys_;
     QByteArray screen_;
     bool loopRunning_ = false;
+    bool linkSeen_ = false; // the link was up while the window was
 };

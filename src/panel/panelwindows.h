@@ -9,3 +9,6 @@ class frmV_Panel;
 
 frmV_Key* ShowVirtualKeyboard(QWidget* parent);
 frmV_Panel* ShowVirtualPanel(QWidget* parent);
+// Closes both if open: the frame does so before it lets the instrument go, so
+// the screen loop asks nothing of a link being closed.
+void CloseVirtualPanelWindows();

@@ -100,6 +100,16 @@ TEST_F(PanelScreenTest, LostLinkClosesThePanel)
     EXPECT_FALSE(platform->boxes.isEmpty());
 }
 
+TEST_F(PanelScreenTest, WithoutALinkThePanelStaysOpenAndIdle)
+{
+    int passes = 0;
+    EXPECT_TRUE(runPanel([&](frmV_Panel& panel) {
+        if (++passes == 20) panel.close();
+    }));
+    EXPECT_EQ(passes, 20);
+    EXPECT_TRUE(platform->boxes.isEmpty());
+}
+
 TEST_F(PanelScreenTest, CaptionsFollowTheLanguage)
 {
     Language = LanguageChinese;
