@@ -11,12 +11,17 @@
 #include "panel/screenpicturewidgets.h"
 #include "text/captions.h"
 #include "text/language.h"
+#include "wave/frmWavePrint.h"
+#include "wave/waveprint.h"
 
 #include <QAbstractButton>
 #include <QFile>
+#include <QFileInfo>
+#include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QThread>
 
 namespace {
 
@@ -27,6 +32,14 @@ const QString DisplayData = QStringLiteral(":DISPLAY:DATA?");
 TEST_F(PanelScreenTest, ScreenRunsLiveFollowsTheKeysAndIdlesWhileStopped)
 {
     connectSim();
+    const QTemporaryDir dir;
+    platform->savePaths = {dir.filePath("screen.bmp")};
+    const QString pdf = dir.filePath("page.pdf");
+    const PrinterChooser previous = SetPrinterChooser([&pdf](QPrinter& printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(pdf);
+        return true;
+    });
     enum { FirstScreen, Pressed, Stopped, Running } phase = FirstScreen;
     QImage first;
     QString scale;
@@ -51,7 +64,11 @@ TEST_F(PanelScreenTest, ScreenRunsLiveFollowsTheKeysAndIdlesWhileStopped)
             phase = Stopped;
             return;
         case Stopped:
-            if (++idlePasses < 20) return;
+            if (++idlePasses == 1) {
+                ClickButton(panel.cmdExport);
+                ClickButton(panel.cmdPrint);
+            }
+            if (idlePasses < 20) return;
             EXPECT_EQ(loggedCount(DisplayData), screensAtStop) << "a stopped panel asks for nothing";
             EXPECT_TRUE(panel.cmdRun->isEnabled());
             ClickButton(panel.cmdRun);
@@ -62,8 +79,12 @@ TEST_F(PanelScreenTest, ScreenRunsLiveFollowsTheKeysAndIdlesWhileStopped)
             return;
         }
     });
+    SetPrinterChooser(previous);
     EXPECT_TRUE(closed);
     EXPECT_EQ(first.size(), QSize(320, 240));
+    EXPECT_EQ(QImage(dir.filePath("screen.bmp")).size(), QSize(320, 240)) << "the export";
+    EXPECT_GT(QFileInfo(pdf).size(), 0) << "the printed page";
+    EXPECT_EQ(QImage(PrintImagePath()).size(), QSize(320, 240)) << "the print image beside the program";
     EXPECT_EQ(scale, "5.000e+00\n") << "two presses of the volts key: 1 V, 2 V, 5 V";
     EXPECT_FALSE(PanelFlags.PanelOpen);
     EXPECT_TRUE(platform->boxes.isEmpty());
@@ -79,6 +100,7 @@ TEST_F(PanelScreenTest, ShortPicturesAreAskedForAgainUntilStopped)
         if (PanelFlags.PanelRunning) {
             if (loggedCount(DisplayData) < 3) return;
             ClickButton(panel.cmdStop); // inside ReadDisplayData's retry
+            QThread::msleep(200);       // the request just sent reaches the log
             asked = loggedCount(DisplayData);
         } else if (panel.screenLoopRunning()) {
             EXPECT_TRUE(panel.AddPic->image().isNull());
