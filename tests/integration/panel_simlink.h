@@ -6,8 +6,8 @@
 #include "link_simlink.h"
 
 #include <QPointer>
-#include <QWidget>
 #include <QStringList>
+#include <QWidget>
 #include <functional>
 #include <memory>
 
