@@ -130,13 +130,14 @@ void frmV_Panel::SetCaptions(int language)
     keys_->SetCaptions(language);
 }
 
-void frmV_Panel::DrawBulkWave()
+bool frmV_Panel::DrawBulkWave()
 {
     QByteArray screen;
     ReadDisplayData(screen);
-    if (!PanelRunsScreen() || screen.size() != ScreenPictureSize) return;
+    if (!PanelRunsScreen() || screen.size() != ScreenPictureSize) return false;
     screen_ = screen;
     AddPic->AddPic(screen_.constData(), int(screen_.size()));
+    return true;
 }
 
 void frmV_Panel::tDrawBmp_Timer()
@@ -155,10 +156,11 @@ void frmV_Panel::runScreenLoop()
     showRunState();
     while (self && PanelFlags.PanelOpen) {
         while (self && PanelRunsScreen()) {
-            DrawBulkWave();
+            const bool shown = DrawBulkWave();
             DoEvents();
             if (self) closeIfGone();
-            if (self && !LinkGateOpen()) Sleep(IdlePause); // nothing to fetch
+            // No link, or one without binary reads (RS232): nothing comes, so don't spin.
+            if (self && !shown) Sleep(IdlePause);
         }
         if (!self) return;
         DoEvents();

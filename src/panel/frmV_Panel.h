@@ -27,7 +27,8 @@ class frmV_Panel : public QWidget, public PrintablePicture {
     int FreeResource() { return 0; }
 
     // One pass of the screen loop: fetch a screen and show it if still running.
-    void DrawBulkWave();
+    // true when a picture was shown.
+    bool DrawBulkWave();
     bool screenLoopRunning() const { return loopRunning_; }
 
     QFrame* PanelWavePic = nullptr;
