@@ -51,7 +51,6 @@ int main(int argc, char** argv)
         window->findChild<QAction*>(QStringLiteral("mnuToolsConnect"))->trigger();
         if (!Connected) std::fprintf(stderr, "not connected: the panel shows no screen\n");
         frmV_Key* keyboard = ShowVirtualKeyboard(window.get());
-        keyboard->adjustSize();
         const bool keys = save(keyboard, base + "-keyboard.png");
         keyboard->close();
         window->findChild<QAction*>(QStringLiteral("mnuToolsVirtualPanel"))->trigger();
