@@ -20,6 +20,8 @@ constexpr Subcommand subcommands[] = {
     {"download", "Read every setting of the instrument and write a control file.", RunDownloadCommand},
     {"measure", "Read one channel's measurements, judge them against limits and write the export.",
      RunMeasureCommand},
+    {"screen", "Read the instrument's screen picture and write it.", RunScreenCommand},
+    {"key", "Press front-panel keys by control name, holding some for a number of ticks.", RunKeyCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)

@@ -17,3 +17,7 @@ int RunDownloadCommand(const QStringList& arguments);
 // the export (--out FILE.txt). 0 when every limited item passes, 1 when one
 // fails, 2 on a usage, link or file error.
 int RunMeasureCommand(const QStringList& arguments);
+// Reads the instrument's screen picture and writes it (--out FILE.png|.bmp).
+int RunScreenCommand(const QStringList& arguments);
+// Presses front-panel keys by control name, NAME@TICKS holding a repeat key.
+int RunKeyCommand(const QStringList& arguments);

@@ -14,6 +14,7 @@
 #include "link/linklamp.h"
 #include "link/linkstate.h"
 #include "link/usbtransport.h"
+#include "panel/panelwindows.h"
 #include "platform/platform.h"
 #include "sheet/frmDataSheetTree.h"
 #include "document/sheetstate.h"
@@ -200,5 +201,6 @@ void frmMain::Form_Unload()
         timer->stop();
     keepPlacement();
     SaveSoftwareSetting();
+    CloseVirtualPanelWindows();
     ReleaseInstrumentAndVisa();
 }

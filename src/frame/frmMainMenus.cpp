@@ -2,9 +2,10 @@
 
 #include "frame/frmMain.h"
 
-#include "text/captionwidgets.h"
 #include "frame/recentfiles.h"
 #include "frame/tilelayout.h"
+#include "panel/panelwindows.h"
+#include "text/captionwidgets.h"
 
 #include <QMenuBar>
 
@@ -105,6 +106,11 @@ void frmMain::createToolsMenu()
     entry(this, mnuTools, "mnuToolsDisconnect", &frmMain::mnuToolsDisconnect_Click);
     namedBar(mnuTools, "mnuToolsBar1");
     entry(this, mnuTools, "mnuToolsOptions", &frmMain::mnuToolsOptions_Click);
+    namedBar(mnuTools, "mnuToolsBar2");
+    connect(mnuTools->addAction(QString()), &QAction::triggered, this, [this] { ShowVirtualKeyboard(this); });
+    mnuTools->actions().last()->setObjectName("mnuToolsVirtualKeyboard");
+    connect(mnuTools->addAction(QString()), &QAction::triggered, this, [this] { ShowVirtualPanel(this); });
+    mnuTools->actions().last()->setObjectName("mnuToolsVirtualPanel");
 }
 
 void frmMain::createWindowMenu()
@@ -169,6 +175,9 @@ void frmMain::setMenuCaptions(int language)
                    {"mnuHelpAbout", 26},
                    {"mnuHelpLanguage", 27}},
                   language);
+    // The two windows' own titles name their entries.
+    ApplyCaptions(this, CaptionList::VirtualKeyboard, {{"mnuToolsVirtualKeyboard", 0}}, language);
+    ApplyCaptions(this, CaptionList::VirtualPanel, {{"mnuToolsVirtualPanel", 0}}, language);
 }
 
 std::array<QAction*, 3>& frmMain::recentEntries(const QString& section)

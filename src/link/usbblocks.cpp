@@ -106,5 +106,6 @@ void ReadDisplayData(QByteArray& bytes)
         if (count == ScreenPictureSize) break;
         WriteCmd(ask);
         DoEvents();
-    } while (PanelRunFlagsSet && PanelRunFlagsSet());
+        // A lost link answers nothing more: asking again would never end.
+    } while (LinkGateOpen() && PanelRunFlagsSet && PanelRunFlagsSet());
 }
