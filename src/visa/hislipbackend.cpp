@@ -39,8 +39,12 @@ class HislipBackend : public Backend {
     {
         setTcpOptions(sync_, settings.keepAlive, settings.noDelay);
         setTcpOptions(async_, settings.keepAlive, settings.noDelay);
+        sendEnd_ = settings.sendEnd;
         return VI_SUCCESS;
     }
+    ViStatus readStatusByte(const Deadline& deadline, uint16_t& statusByte) override;
+    ViStatus trigger(const Deadline& deadline) override;
+    uint32_t protocolVersion() const override { return serverVersion_; }
 
   private:
     ViStatus initialize(const ResourceName& name, const Deadline& deadline);
@@ -50,6 +54,9 @@ class HislipBackend : public Backend {
     FdChannel async_;
     uint32_t messageId_ = kFirstMessageId;
     size_t serverPiece_ = kClientMaximum;
+    bool sendEnd_ = true;
+    bool delivered_ = false; // a whole reply has reached the caller since our last message
+    uint32_t serverVersion_ = 0;
 };
 
 ViStatus HislipBackend::open(const ResourceName& name)
@@ -69,6 +76,7 @@ ViStatus HislipBackend::initialize(const ResourceName& name, const Deadline& dea
                            name.deviceName.size());
     if (status == VI_SUCCESS) status = await(sync_, InitializeResponse, deadline, reply);
     const uint32_t sessionId = reply.parameter & 0xFFFF;
+    serverVersion_ = reply.parameter >> 16;
     if (status == VI_SUCCESS) status = connectTcp(name.host, name.port, async_);
     if (status == VI_SUCCESS) status = send(async_, AsyncInitialize, 0, sessionId, deadline);
     if (status == VI_SUCCESS) status = await(async_, AsyncInitializeResponse, deadline, reply);
@@ -97,8 +105,9 @@ ViStatus HislipBackend::write(const uint8_t* data, size_t size, const Deadline& 
     do {
         const size_t piece = std::min(size - written, serverPiece_);
         const bool last = written + piece == size;
-        const ViStatus status =
-            send(sync_, last ? DataEnd : Data, 0, messageId_, deadline, data + written, piece);
+        const ViStatus status = send(sync_, last && sendEnd_ ? DataEnd : Data, delivered_ ? 1 : 0, messageId_,
+                                     deadline, data + written, piece);
+        delivered_ = false;
         messageId_ += 2;
         if (status != VI_SUCCESS) return status;
         written += piece;
@@ -113,6 +122,7 @@ ViStatus HislipBackend::fetch(size_t, const ReadSettings&, const Deadline& deadl
         if (const ViStatus status = receive(sync_, deadline, message); status != VI_SUCCESS) return status;
         if (message.type == Data || message.type == DataEnd) {
             queue.push(message.payload.data(), message.payload.size(), message.type == DataEnd);
+            delivered_ = delivered_ || message.type == DataEnd;
             return VI_SUCCESS;
         }
         if (message.type == FatalError) return VI_ERROR_CONN_LOST;
@@ -129,6 +139,25 @@ ViStatus HislipBackend::clear(const Deadline& deadline)
     if (status == VI_SUCCESS) status = send(sync_, DeviceClearComplete, reply.control, 0, deadline);
     if (status == VI_SUCCESS) status = await(sync_, DeviceClearAcknowledge, deadline, reply);
     messageId_ = kFirstMessageId;
+    return status;
+}
+
+// The status byte comes on the asynchronous channel, as the response's control code.
+ViStatus HislipBackend::readStatusByte(const Deadline& deadline, uint16_t& statusByte)
+{
+    Message reply;
+    ViStatus status = send(async_, AsyncStatusQuery, delivered_ ? 1 : 0, messageId_ - 2, deadline);
+    if (status == VI_SUCCESS) status = await(async_, AsyncStatusResponse, deadline, reply);
+    delivered_ = false;
+    if (status == VI_SUCCESS) statusByte = reply.control;
+    return status;
+}
+
+ViStatus HislipBackend::trigger(const Deadline& deadline)
+{
+    const ViStatus status = send(sync_, Trigger, delivered_ ? 1 : 0, messageId_, deadline);
+    messageId_ += 2;
+    delivered_ = false;
     return status;
 }
 
