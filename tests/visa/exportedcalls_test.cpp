@@ -4,6 +4,7 @@
 #include "visa/visaextras.h"
 #include "visatesting.h"
 
+#include <cstring>
 #include <dlfcn.h>
 #include <functional>
 #include <gtest/gtest.h>
@@ -208,6 +209,48 @@ TEST_F(ExportedCalls, BadInputGetsTheStandardStatus)
         {"unknown status text", [&](ViSession, ViSession s) { return v.viStatusDesc(s, 0x12345, text); },
          VI_WARN_UNKNOWN_STATUS},
     });
+}
+
+// Each numeric attribute is written at its own width and not a byte beyond.
+TEST_F(ExportedCalls, SessionAttributesHaveTheirStandardValuesAndWidths)
+{
+    const auto& v = lib();
+    ViUInt32 count = 0;
+    ASSERT_EQ(v.viWrite(session, reinterpret_cast<const ViByte*>("abc"), 3, &count), VI_SUCCESS);
+    struct Row {
+        ViAttr attribute;
+        size_t width;
+        uint64_t value;
+    };
+    const Row rows[] = {{VI_ATTR_INTF_TYPE, 2, VI_INTF_TCPIP},
+                        {VI_ATTR_INTF_NUM, 2, 0},
+                        {VI_ATTR_TCPIP_PORT, 2, peer.port()},
+                        {VI_ATTR_TERMCHAR, 1, '\n'},
+                        {VI_ATTR_SEND_END_EN, 2, VI_TRUE},
+                        {VI_ATTR_TCPIP_NODELAY, 2, VI_TRUE},
+                        {VI_ATTR_TMO_VALUE, 4, 50},
+                        {VI_ATTR_RSRC_LOCK_STATE, 4, VI_NO_LOCK},
+                        {VI_ATTR_IO_PROT, 2, VI_PROT_NORMAL},
+                        {VI_ATTR_RSRC_SPEC_VERSION, 4, 0x00700100u},
+                        {VI_ATTR_RET_COUNT_32, 4, 3},
+                        {VI_ATTR_RET_COUNT_64, 8, 3}};
+    for (const Row& row : rows) {
+        uint8_t bytes[16];
+        std::memset(bytes, 0xEE, sizeof bytes);
+        ASSERT_EQ(v.viGetAttribute(session, row.attribute, bytes), VI_SUCCESS) << std::hex << row.attribute;
+        uint64_t value = 0;
+        std::memcpy(&value, bytes, row.width);
+        EXPECT_EQ(value, row.value) << std::hex << row.attribute;
+        EXPECT_EQ(bytes[row.width], 0xEE) << "wider than its type: " << std::hex << row.attribute;
+    }
+    const char* texts[][2] = {
+        {"RSRC_CLASS", "SOCKET"}, {"TCPIP_ADDR", "127.0.0.1"}, {"RSRC_MANF_NAME", "Selvane"}};
+    const ViAttr textIds[] = {VI_ATTR_RSRC_CLASS, VI_ATTR_TCPIP_ADDR, VI_ATTR_RSRC_MANF_NAME};
+    for (size_t i = 0; i < std::size(textIds); ++i) {
+        char text[VI_FIND_BUFLEN] = "";
+        EXPECT_EQ(v.viGetAttribute(session, textIds[i], text), VI_SUCCESS) << texts[i][0];
+        EXPECT_STREQ(text, texts[i][1]) << texts[i][0];
+    }
 }
 
 TEST_F(ExportedCalls, ParsingAndLockingFollowTheStandard)

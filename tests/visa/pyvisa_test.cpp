@@ -67,8 +67,8 @@ TEST_P(Pyvisa, ScriptRunsUnchangedOnOurLibrary)
     if (!available) GTEST_SKIP() << kPython << " cannot import pyvisa";
     ASSERT_TRUE(started) << sim->errorString().toStdString() << silent->errorString().toStdString();
     const QString transport = GetParam();
-    QStringList arguments{SELVANE_TEST_DATA "/visa/data/pyvisa_session.py", SELVANE_VISA_SHARED_PATH, transport,
-                          resourceName(*sim, transport)};
+    QStringList arguments{SELVANE_TEST_DATA "/visa/data/pyvisa_session.py", SELVANE_VISA_SHARED_PATH,
+                          transport, resourceName(*sim, transport)};
     // The silent simulator's portmapper is not the one the VXI-11 run asks, and it has no pty.
     if (transport == "socket" || transport == "hislip") arguments << resourceName(*silent, transport);
 
