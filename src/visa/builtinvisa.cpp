@@ -109,12 +109,14 @@ ViStatus clearSession(ViSession vi)
     return access == VI_SUCCESS ? session->clear() : access;
 }
 
-// Managers and find lists have only the manufacturer's name.
+// Managers and find lists have only the library's own facts.
 ViStatus setAttribute(ViObject vi, ViAttr attrName, ViAttrState attrValue)
 {
     if (const auto session = builtinObjects().session(vi)) return session->setAttribute(attrName, attrValue);
     if (!builtinObjects().exists(vi)) return VI_ERROR_INV_OBJECT;
-    return attrName == VI_ATTR_RSRC_MANF_NAME ? VI_ERROR_ATTR_READONLY : VI_ERROR_NSUP_ATTR;
+    const bool known = attrName == VI_ATTR_RSRC_MANF_NAME || attrName == VI_ATTR_RSRC_SPEC_VERSION ||
+                       attrName == VI_ATTR_RSRC_IMPL_VERSION || attrName == VI_ATTR_RSRC_MANF_ID;
+    return known ? VI_ERROR_ATTR_READONLY : VI_ERROR_NSUP_ATTR;
 }
 
 ViStatus getAttribute(ViObject vi, ViAttr attrName, void* attrValue)
@@ -122,9 +124,15 @@ ViStatus getAttribute(ViObject vi, ViAttr attrName, void* attrValue)
     if (!attrValue) return VI_ERROR_INV_PARAMETER;
     if (const auto session = builtinObjects().session(vi)) return session->getAttribute(attrName, attrValue);
     if (!builtinObjects().exists(vi)) return VI_ERROR_INV_OBJECT;
-    if (attrName != VI_ATTR_RSRC_MANF_NAME) return VI_ERROR_NSUP_ATTR;
-    copyAttributeText(kManufacturerName, attrValue);
-    return VI_SUCCESS;
+    switch (attrName) {
+    case VI_ATTR_RSRC_MANF_NAME: copyAttributeText(kManufacturerName, attrValue); return VI_SUCCESS;
+    case VI_ATTR_RSRC_SPEC_VERSION: *static_cast<ViVersion*>(attrValue) = kSpecVersion; return VI_SUCCESS;
+    case VI_ATTR_RSRC_IMPL_VERSION:
+        *static_cast<ViVersion*>(attrValue) = kImplementationVersion;
+        return VI_SUCCESS;
+    case VI_ATTR_RSRC_MANF_ID: *static_cast<ViUInt16*>(attrValue) = 0; return VI_SUCCESS;
+    default: return VI_ERROR_NSUP_ATTR;
+    }
 }
 
 } // namespace

@@ -11,6 +11,9 @@
 namespace selvane::visa {
 
 inline constexpr const char* kManufacturerName = "Selvane";
+// Major version in the top twelve bits, minor in the next twelve: VISA 7.1, our own 0.1.
+inline constexpr ViVersion kSpecVersion = 0x00700100u;
+inline constexpr ViVersion kImplementationVersion = 0x00000100u;
 
 class Session {
   public:

@@ -128,10 +128,6 @@ bool acceptable(ViAttr attribute, Kind kind, ViAttrState value)
     }
 }
 
-// 7.1 of the VISA specification; our own version 0.1.
-constexpr ViVersion kSpecVersion = 0x00700100u;
-constexpr ViVersion kImplementationVersion = 0x00000100u;
-
 } // namespace
 
 ViUInt16 interfaceCode(Interface interface)
