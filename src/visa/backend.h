@@ -28,6 +28,7 @@ struct SessionSettings {
     bool keepAlive = false;
     bool noDelay = true;
     SerialLine serial;
+    uint32_t hislipMaxMessageKb = 1024; // what a HiSLIP client offers to take
 };
 
 class Backend : public MessageSource {

@@ -40,7 +40,11 @@ class HislipBackend : public Backend {
         setTcpOptions(sync_, settings.keepAlive, settings.noDelay);
         setTcpOptions(async_, settings.keepAlive, settings.noDelay);
         sendEnd_ = settings.sendEnd;
-        return VI_SUCCESS;
+        const uint64_t offer = uint64_t(settings.hislipMaxMessageKb) * 1024;
+        if (offer == offeredSize_ || !async_.isOpen()) return VI_SUCCESS;
+        const ViStatus status = negotiateSize(Deadline(kConnectTimeoutMs), offer);
+        if (status == VI_SUCCESS) offeredSize_ = offer;
+        return status;
     }
     ViStatus readStatusByte(const Deadline& deadline, uint16_t& statusByte) override;
     ViStatus trigger(const Deadline& deadline) override;
@@ -48,12 +52,13 @@ class HislipBackend : public Backend {
 
   private:
     ViStatus initialize(const ResourceName& name, const Deadline& deadline);
-    ViStatus negotiateSize(const Deadline& deadline);
+    ViStatus negotiateSize(const Deadline& deadline, uint64_t ours);
 
     FdChannel sync_;
     FdChannel async_;
     uint32_t messageId_ = kFirstMessageId;
     size_t serverPiece_ = kClientMaximum;
+    uint64_t offeredSize_ = kClientMaximum; // the largest message we told the server we take
     bool sendEnd_ = true;
     bool delivered_ = false; // a whole reply has reached the caller since our last message
     uint32_t serverVersion_ = 0;
@@ -64,7 +69,7 @@ ViStatus HislipBackend::open(const ResourceName& name)
     const Deadline deadline(kConnectTimeoutMs);
     ViStatus status = connectTcp(name.host, name.port, sync_);
     if (status == VI_SUCCESS) status = initialize(name, deadline);
-    if (status == VI_SUCCESS) status = negotiateSize(deadline);
+    if (status == VI_SUCCESS) status = negotiateSize(deadline, offeredSize_);
     return status == VI_SUCCESS ? status : VI_ERROR_RSRC_NFOUND;
 }
 
@@ -83,9 +88,9 @@ ViStatus HislipBackend::initialize(const ResourceName& name, const Deadline& dea
     return status;
 }
 
-ViStatus HislipBackend::negotiateSize(const Deadline& deadline)
+ViStatus HislipBackend::negotiateSize(const Deadline& deadline, uint64_t offer)
 {
-    const std::vector<uint8_t> ours = sizePayload(kClientMaximum);
+    const std::vector<uint8_t> ours = sizePayload(offer);
     Message reply;
     ViStatus status = send(async_, AsyncMaximumMessageSize, 0, 0, deadline, ours.data(), ours.size());
     if (status == VI_SUCCESS) status = await(async_, AsyncMaximumMessageSizeResponse, deadline, reply);

@@ -56,7 +56,6 @@ class Session {
     uint64_t lastCount_ = 0;
     uint16_t ioProtocol_ = VI_PROT_NORMAL;
     uint32_t maxQueueLength_ = 50;
-    uint32_t hislipMaxMessageKb_ = 1024;
     bool dmaAllowed_ = false;
     bool fileAppend_ = false;
 };

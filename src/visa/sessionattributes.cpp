@@ -110,7 +110,7 @@ bool acceptable(ViAttr attribute, Kind kind, ViAttrState value)
     switch (attribute) {
     case VI_ATTR_IO_PROT: return value == VI_PROT_NORMAL || value == VI_PROT_4882_STRS;
     case VI_ATTR_MAX_QUEUE_LENGTH:
-    case VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB: return value >= 1 && value <= 0xFFFFFFFFu;
+    case VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB: return value >= 1 && value <= 0x3FFFFF; // up to 4 GB
     case VI_ATTR_TCPIP_HISLIP_OVERLAP_EN: return value == 0; // we always run synchronized
     case VI_ATTR_ASRL_DATA_BITS: return value >= 5 && value <= 8;
     case VI_ATTR_ASRL_PARITY: return value <= 4;
@@ -173,7 +173,7 @@ bool Session::number(ViAttr attribute, ViAttrState& value)
     case VI_ATTR_TCPIP_HISLIP_VERSION:
         value = (backend_->protocolVersion() >> 8) << 20 | (backend_->protocolVersion() & 0xFF) << 8;
         break;
-    case VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB: value = hislipMaxMessageKb_; break;
+    case VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB: value = settings_.hislipMaxMessageKb; break;
     case VI_ATTR_ASRL_BAUD: value = line.baud; break;
     case VI_ATTR_ASRL_DATA_BITS: value = line.dataBits; break;
     case VI_ATTR_ASRL_PARITY: value = line.parity; break;
@@ -226,7 +226,7 @@ ViStatus Session::change(ViAttr attribute, ViAttrState value)
     case VI_ATTR_DMA_ALLOW_EN: dmaAllowed_ = on; return VI_SUCCESS;
     case VI_ATTR_FILE_APPEND_EN: fileAppend_ = on; return VI_SUCCESS;
     case VI_ATTR_TCPIP_HISLIP_OVERLAP_EN: return VI_SUCCESS;
-    case VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB: hislipMaxMessageKb_ = ViUInt32(value); return VI_SUCCESS;
+    case VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB: settings_.hislipMaxMessageKb = ViUInt32(value); break;
     case VI_ATTR_SUPPRESS_END_EN: settings_.read.suppressEnd = on; return VI_SUCCESS;
     case VI_ATTR_TERMCHAR: settings_.read.termChar = ViUInt8(value); break;
     case VI_ATTR_TERMCHAR_EN: settings_.read.termCharEnabled = on; break;

@@ -4,6 +4,7 @@ usage: pyvisa_session.py LIBRARY TRANSPORT RESOURCE [SILENT_RESOURCE]
 TRANSPORT is socket, hislip, vxi11 or asrl. Prints one line per check; exits
 non-zero on the first failure.
 """
+import ctypes
 import sys
 
 import pyvisa
@@ -90,6 +91,13 @@ if transport == "asrl":
     check(inst.end_input == constants.SerialTermination.termination_char, "end input")
 else:
     check(inst.get_visa_attribute(constants.ResourceAttribute.tcpip_address) == "127.0.0.1", "TCPIP address")
+if transport == "hislip":
+    inst.set_visa_attribute(constants.ResourceAttribute.tcpip_hislip_max_message_kb, 64)
+    # pyvisa 1.11 misspells this attribute's type and cannot read it; ask the library directly.
+    kb = ctypes.c_uint32()
+    inst.visalib.lib.viGetAttribute(inst.session, constants.VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB, ctypes.byref(kb))
+    check(kb.value == 64, "message size")
+    check(inst.query("*IDN?") == IDN, "query after renegotiating the message size")
 
 inst.close()
 
