@@ -3,7 +3,7 @@
 
 SELVANE_PACKAGES=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-serialport-dev libgl-dev
                   libgtest-dev libgmock-dev libbenchmark-dev fonts-noto-cjk xvfb xauth
-                  python3 python3-pyvisa-py ccache)
+                  python3 python3-pyvisa python3-pyvisa-py ccache)
 
 selvane_install() {
     local missing=()

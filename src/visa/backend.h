@@ -10,12 +10,25 @@ namespace selvane::visa {
 
 struct ResourceName;
 
+// A serial line's framing; the values are the VISA attribute values.
+struct SerialLine {
+    uint32_t baud = 9600;
+    uint16_t dataBits = 8;
+    uint16_t parity = 0;    // none, odd, even, mark, space
+    uint16_t stopBits = 10; // 10: one, 20: two
+    uint16_t flow = 0;      // 0 none, 1 XON/XOFF, 2 RTS/CTS
+    uint16_t endIn = 2;     // 0 none, 2 term character
+    uint16_t endOut = 0;    // 0 none, 2 term character
+};
+
 struct SessionSettings {
     uint32_t timeoutMs = 2000;
     ReadSettings read;
+    bool sendEnd = true; // mark the last byte of a write as the message's end
     bool keepAlive = false;
     bool noDelay = true;
-    uint32_t baud = 9600;
+    SerialLine serial;
+    uint32_t hislipMaxMessageKb = 1024; // what a HiSLIP client offers to take
 };
 
 class Backend : public MessageSource {
@@ -26,6 +39,17 @@ class Backend : public MessageSource {
     virtual ViStatus clear(const Deadline& deadline) = 0;
     // Called when an attribute the transport itself uses has changed.
     virtual ViStatus apply(const SessionSettings&) { return VI_SUCCESS; }
+    // The status byte through the protocol's own service; NSUP_OPER where it has none.
+    virtual ViStatus readStatusByte(const Deadline&, uint16_t&) { return VI_ERROR_NSUP_OPER; }
+    virtual ViStatus trigger(const Deadline&) { return VI_ERROR_NSUP_OPER; }
+    // Drops what the system holds in its input or output buffer (mask: VI_IO_*_BUF_DISCARD).
+    virtual void discardSystemBuffers(uint16_t) {}
+    // Bytes received but not yet fetched.
+    virtual size_t pending() const { return 0; }
+    // A HiSLIP server's protocol version (major << 8 | minor); 0 elsewhere.
+    virtual uint32_t protocolVersion() const { return 0; }
+    // Whether a raw stream backend; those read and trigger through IEEE 488.2 strings.
+    virtual bool isStream() const { return false; }
 };
 
 // The backend for the resource's class, connected; empty with `status` set when it fails.

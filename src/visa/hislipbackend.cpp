@@ -39,17 +39,29 @@ class HislipBackend : public Backend {
     {
         setTcpOptions(sync_, settings.keepAlive, settings.noDelay);
         setTcpOptions(async_, settings.keepAlive, settings.noDelay);
-        return VI_SUCCESS;
+        sendEnd_ = settings.sendEnd;
+        const uint64_t offer = uint64_t(settings.hislipMaxMessageKb) * 1024;
+        if (offer == offeredSize_ || !async_.isOpen()) return VI_SUCCESS;
+        const ViStatus status = negotiateSize(Deadline(kConnectTimeoutMs), offer);
+        if (status == VI_SUCCESS) offeredSize_ = offer;
+        return status;
     }
+    ViStatus readStatusByte(const Deadline& deadline, uint16_t& statusByte) override;
+    ViStatus trigger(const Deadline& deadline) override;
+    uint32_t protocolVersion() const override { return serverVersion_; }
 
   private:
     ViStatus initialize(const ResourceName& name, const Deadline& deadline);
-    ViStatus negotiateSize(const Deadline& deadline);
+    ViStatus negotiateSize(const Deadline& deadline, uint64_t ours);
 
     FdChannel sync_;
     FdChannel async_;
     uint32_t messageId_ = kFirstMessageId;
     size_t serverPiece_ = kClientMaximum;
+    uint64_t offeredSize_ = kClientMaximum; // the largest message we told the server we take
+    bool sendEnd_ = true;
+    bool delivered_ = false; // a whole reply has reached the caller since our last message
+    uint32_t serverVersion_ = 0;
 };
 
 ViStatus HislipBackend::open(const ResourceName& name)
@@ -57,7 +69,7 @@ ViStatus HislipBackend::open(const ResourceName& name)
     const Deadline deadline(kConnectTimeoutMs);
     ViStatus status = connectTcp(name.host, name.port, sync_);
     if (status == VI_SUCCESS) status = initialize(name, deadline);
-    if (status == VI_SUCCESS) status = negotiateSize(deadline);
+    if (status == VI_SUCCESS) status = negotiateSize(deadline, offeredSize_);
     return status == VI_SUCCESS ? status : VI_ERROR_RSRC_NFOUND;
 }
 
@@ -69,15 +81,16 @@ ViStatus HislipBackend::initialize(const ResourceName& name, const Deadline& dea
                            name.deviceName.size());
     if (status == VI_SUCCESS) status = await(sync_, InitializeResponse, deadline, reply);
     const uint32_t sessionId = reply.parameter & 0xFFFF;
+    serverVersion_ = reply.parameter >> 16;
     if (status == VI_SUCCESS) status = connectTcp(name.host, name.port, async_);
     if (status == VI_SUCCESS) status = send(async_, AsyncInitialize, 0, sessionId, deadline);
     if (status == VI_SUCCESS) status = await(async_, AsyncInitializeResponse, deadline, reply);
     return status;
 }
 
-ViStatus HislipBackend::negotiateSize(const Deadline& deadline)
+ViStatus HislipBackend::negotiateSize(const Deadline& deadline, uint64_t offer)
 {
-    const std::vector<uint8_t> ours = sizePayload(kClientMaximum);
+    const std::vector<uint8_t> ours = sizePayload(offer);
     Message reply;
     ViStatus status = send(async_, AsyncMaximumMessageSize, 0, 0, deadline, ours.data(), ours.size());
     if (status == VI_SUCCESS) status = await(async_, AsyncMaximumMessageSizeResponse, deadline, reply);
@@ -97,8 +110,9 @@ ViStatus HislipBackend::write(const uint8_t* data, size_t size, const Deadline& 
     do {
         const size_t piece = std::min(size - written, serverPiece_);
         const bool last = written + piece == size;
-        const ViStatus status =
-            send(sync_, last ? DataEnd : Data, 0, messageId_, deadline, data + written, piece);
+        const ViStatus status = send(sync_, last && sendEnd_ ? DataEnd : Data, delivered_ ? 1 : 0, messageId_,
+                                     deadline, data + written, piece);
+        delivered_ = false;
         messageId_ += 2;
         if (status != VI_SUCCESS) return status;
         written += piece;
@@ -113,6 +127,7 @@ ViStatus HislipBackend::fetch(size_t, const ReadSettings&, const Deadline& deadl
         if (const ViStatus status = receive(sync_, deadline, message); status != VI_SUCCESS) return status;
         if (message.type == Data || message.type == DataEnd) {
             queue.push(message.payload.data(), message.payload.size(), message.type == DataEnd);
+            delivered_ = delivered_ || message.type == DataEnd;
             return VI_SUCCESS;
         }
         if (message.type == FatalError) return VI_ERROR_CONN_LOST;
@@ -129,6 +144,25 @@ ViStatus HislipBackend::clear(const Deadline& deadline)
     if (status == VI_SUCCESS) status = send(sync_, DeviceClearComplete, reply.control, 0, deadline);
     if (status == VI_SUCCESS) status = await(sync_, DeviceClearAcknowledge, deadline, reply);
     messageId_ = kFirstMessageId;
+    return status;
+}
+
+// The status byte comes on the asynchronous channel, as the response's control code.
+ViStatus HislipBackend::readStatusByte(const Deadline& deadline, uint16_t& statusByte)
+{
+    Message reply;
+    ViStatus status = send(async_, AsyncStatusQuery, delivered_ ? 1 : 0, messageId_ - 2, deadline);
+    if (status == VI_SUCCESS) status = await(async_, AsyncStatusResponse, deadline, reply);
+    delivered_ = false;
+    if (status == VI_SUCCESS) statusByte = reply.control;
+    return status;
+}
+
+ViStatus HislipBackend::trigger(const Deadline& deadline)
+{
+    const ViStatus status = send(sync_, Trigger, delivered_ ? 1 : 0, messageId_, deadline);
+    messageId_ += 2;
+    delivered_ = false;
     return status;
 }
 

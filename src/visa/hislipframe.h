@@ -18,11 +18,14 @@ enum Type : uint8_t {
     DataEnd = 7,
     DeviceClearComplete = 8,
     DeviceClearAcknowledge = 9,
+    Trigger = 12,
     AsyncMaximumMessageSize = 15,
     AsyncMaximumMessageSizeResponse = 16,
     AsyncInitialize = 17,
     AsyncInitializeResponse = 18,
     AsyncDeviceClear = 19,
+    AsyncStatusQuery = 21,
+    AsyncStatusResponse = 22,
     AsyncDeviceClearAcknowledge = 23,
 };
 

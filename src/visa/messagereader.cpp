@@ -36,7 +36,7 @@ size_t InputQueue::take(uint8_t* out, size_t room, const ReadSettings& settings,
     head_ += count;
     if (!ends_.empty() && ends_.front() == position()) {
         ends_.pop_front();
-        if (stop == Stop::None) stop = Stop::End;
+        if (stop == Stop::None && !settings.suppressEnd) stop = Stop::End;
     }
     if (head_ == bytes_.size()) {
         base_ += bytes_.size();

@@ -18,6 +18,8 @@ namespace selvane::visa {
 struct ReadSettings {
     uint8_t termChar = '\n';
     bool termCharEnabled = false;
+    bool suppressEnd = false;     // END does not end a read (the term character still may)
+    bool streamEndsAtTerm = true; // a byte stream marks END after the term character
 };
 
 class InputQueue {

@@ -31,16 +31,17 @@ std::string_view trimmed(std::string_view text)
     return text;
 }
 
-// Splits at "::", but not inside the brackets of an IPv6 address.
+// Splits at "::", but not inside the brackets of an IPv6 address, which open a
+// field; elsewhere brackets are plain characters. Empty when a bracket stays open.
 Fields splitFields(std::string_view text)
 {
     Fields fields;
     size_t start = 0;
     int depth = 0;
     for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '[')
+        if (text[i] == '[' && i == start)
             ++depth;
-        else if (text[i] == ']')
+        else if (text[i] == ']' && depth > 0)
             --depth;
         else if (depth == 0 && text[i] == ':' && i + 1 < text.size() && text[i + 1] == ':') {
             fields.push_back(text.substr(start, i - start));
@@ -48,6 +49,7 @@ Fields splitFields(std::string_view text)
             ++i;
         }
     }
+    if (depth > 0) return {};
     fields.push_back(text.substr(start));
     return fields;
 }
@@ -174,7 +176,10 @@ bool parseBoard(std::string_view first, ResourceName& name)
         name.interface = prefix.interface;
         if (prefix.interface == Interface::Asrl && board.size() > 1 && board.front() == '/') {
             name.devicePath = std::string(board);
-            return true;
+            return std::none_of(board.begin(), board.end(), [](char c) {
+                return c == '[' || c == ']' || c == ':' || std::isspace(static_cast<unsigned char>(c)) ||
+                       std::iscntrl(static_cast<unsigned char>(c));
+            });
         }
         const auto value = board.empty() ? std::optional<unsigned>(0) : number<unsigned>(board, 65535);
         name.board = value.value_or(0);
@@ -189,7 +194,10 @@ bool parseFields(Fields fields, ResourceName& name)
     fields.erase(fields.begin());
     const bool socket = !fields.empty() && equalsIgnoringCase(fields.back(), "SOCKET");
     if (socket || (!fields.empty() && equalsIgnoringCase(fields.back(), "INSTR"))) fields.pop_back();
-    if (std::any_of(fields.begin(), fields.end(), [](std::string_view f) { return f.empty(); })) return false;
+    // A field at a lone ":" would merge with its neighbour's "::" once printed back.
+    if (std::any_of(fields.begin(), fields.end(),
+                    [](std::string_view f) { return f.empty() || f.front() == ':' || f.back() == ':'; }))
+        return false;
     if (socket && name.interface != Interface::Tcpip) return false;
     switch (name.interface) {
     case Interface::Tcpip: return parseTcpip(fields, socket, name);
@@ -227,7 +235,8 @@ std::optional<ResourceName> parseResourceName(std::string_view text)
     text = trimmed(text);
     if (text.empty() || text.size() > 1024) return std::nullopt;
     ResourceName name;
-    if (!parseFields(splitFields(text), name)) return std::nullopt;
+    const Fields fields = splitFields(text);
+    if (fields.empty() || !parseFields(fields, name)) return std::nullopt;
     return name;
 }
 

@@ -1,24 +1,42 @@
 #include "visa/session.h"
 
+#include "visa/resourcelocks.h"
+
+#include <charconv>
 #include <cstring>
 
 namespace selvane::visa {
 
 Session::Session(ResourceName name, std::unique_ptr<Backend> backend, const SessionSettings& settings)
-    : name_(std::move(name)), backend_(std::move(backend)), settings_(settings)
+    : name_(std::move(name)), lockName_(name_.canonical()), backend_(std::move(backend)), settings_(settings)
 {
+}
+
+Session::~Session()
+{
+    processLocks().releaseAll(lockName_, this);
+}
+
+ViStatus Session::checkAccess()
+{
+    return processLocks().allows(lockName_, this) ? VI_SUCCESS : VI_ERROR_RSRC_LOCKED;
 }
 
 ViStatus Session::read(uint8_t* buffer, size_t count, size_t& got)
 {
     std::lock_guard lock(mutex_);
-    return readMessage(*backend_, queue_, settings_.read, Deadline(settings_.timeoutMs), buffer, count, got);
+    const ViStatus status =
+        readMessage(*backend_, queue_, settings_.read, Deadline(settings_.timeoutMs), buffer, count, got);
+    lastCount_ = got;
+    return status;
 }
 
 ViStatus Session::write(const uint8_t* data, size_t size, size_t& written)
 {
     std::lock_guard lock(mutex_);
-    return backend_->write(data, size, Deadline(settings_.timeoutMs), written);
+    const ViStatus status = backend_->write(data, size, Deadline(settings_.timeoutMs), written);
+    lastCount_ = written;
+    return status;
 }
 
 ViStatus Session::clear()
@@ -28,65 +46,64 @@ ViStatus Session::clear()
     return backend_->clear(Deadline(settings_.timeoutMs));
 }
 
-bool Session::has(ViAttr attribute) const
+ViStatus Session::queryStatusByte(const Deadline& deadline, uint16_t& statusByte)
 {
-    switch (attribute) {
-    case VI_ATTR_TMO_VALUE:
-    case VI_ATTR_TERMCHAR:
-    case VI_ATTR_TERMCHAR_EN:
-    case VI_ATTR_RSRC_NAME:
-    case VI_ATTR_RSRC_MANF_NAME: return true;
-    case VI_ATTR_TCPIP_KEEPALIVE:
-    case VI_ATTR_TCPIP_NODELAY: return name_.interface == Interface::Tcpip;
-    case VI_ATTR_ASRL_BAUD: return name_.interface == Interface::Asrl;
-    default: return false;
-    }
-}
-
-// Changes one setting and lets the transport follow; a refused value leaves all as it was.
-ViStatus Session::change(ViAttr attribute, ViAttrState value)
-{
-    const bool flag = attribute == VI_ATTR_TERMCHAR_EN || attribute == VI_ATTR_TCPIP_KEEPALIVE ||
-                      attribute == VI_ATTR_TCPIP_NODELAY;
-    const ViAttrState limit = flag ? 1 : attribute == VI_ATTR_TERMCHAR ? 0xFF : VI_TMO_INFINITE;
-    if (value > limit) return VI_ERROR_NSUP_ATTR_STATE;
-    const SessionSettings previous = settings_;
-    switch (attribute) {
-    case VI_ATTR_TMO_VALUE: settings_.timeoutMs = ViUInt32(value); return VI_SUCCESS;
-    case VI_ATTR_TERMCHAR: settings_.read.termChar = ViUInt8(value); break;
-    case VI_ATTR_TERMCHAR_EN: settings_.read.termCharEnabled = value != 0; break;
-    case VI_ATTR_TCPIP_KEEPALIVE: settings_.keepAlive = value != 0; break;
-    case VI_ATTR_TCPIP_NODELAY: settings_.noDelay = value != 0; break;
-    case VI_ATTR_ASRL_BAUD: settings_.baud = ViUInt32(value); break;
-    }
-    const ViStatus status = backend_->apply(settings_);
-    if (status != VI_SUCCESS) settings_ = previous;
-    return status;
-}
-
-ViStatus Session::setAttribute(ViAttr attribute, ViAttrState value)
-{
-    std::lock_guard lock(mutex_);
-    if (!has(attribute)) return VI_ERROR_NSUP_ATTR;
-    if (attribute == VI_ATTR_RSRC_NAME || attribute == VI_ATTR_RSRC_MANF_NAME) return VI_ERROR_ATTR_READONLY;
-    return change(attribute, value);
-}
-
-ViStatus Session::getAttribute(ViAttr attribute, void* value)
-{
-    std::lock_guard lock(mutex_);
-    if (!has(attribute)) return VI_ERROR_NSUP_ATTR;
-    switch (attribute) {
-    case VI_ATTR_TMO_VALUE: *static_cast<ViUInt32*>(value) = settings_.timeoutMs; break;
-    case VI_ATTR_TERMCHAR: *static_cast<ViUInt8*>(value) = settings_.read.termChar; break;
-    case VI_ATTR_TERMCHAR_EN: *static_cast<ViBoolean*>(value) = settings_.read.termCharEnabled; break;
-    case VI_ATTR_TCPIP_KEEPALIVE: *static_cast<ViBoolean*>(value) = settings_.keepAlive; break;
-    case VI_ATTR_TCPIP_NODELAY: *static_cast<ViBoolean*>(value) = settings_.noDelay; break;
-    case VI_ATTR_ASRL_BAUD: *static_cast<ViUInt32*>(value) = settings_.baud; break;
-    case VI_ATTR_RSRC_NAME: copyAttributeText(name_.canonical(), value); break;
-    case VI_ATTR_RSRC_MANF_NAME: copyAttributeText(kManufacturerName, value); break;
-    }
+    static constexpr uint8_t kQuery[] = "*STB?\n";
+    size_t count = 0;
+    queue_.clear();
+    if (const ViStatus status = backend_->write(kQuery, sizeof kQuery - 1, deadline, count); status < 0)
+        return status;
+    uint8_t reply[32];
+    const ViStatus status =
+        readMessage(*backend_, queue_, settings_.read, deadline, reply, sizeof reply, count);
+    if (status < 0) return status;
+    unsigned value = 0;
+    const auto [end, error] = std::from_chars(reinterpret_cast<const char*>(reply),
+                                              reinterpret_cast<const char*>(reply) + count, value);
+    if (error != std::errc() || value > 0xFF) return VI_ERROR_IO;
+    statusByte = uint16_t(value);
     return VI_SUCCESS;
+}
+
+ViStatus Session::readStatusByte(uint16_t& statusByte)
+{
+    std::lock_guard lock(mutex_);
+    const Deadline deadline(settings_.timeoutMs);
+    if (backend_->isStream())
+        return ioProtocol_ == VI_PROT_4882_STRS ? queryStatusByte(deadline, statusByte) : VI_ERROR_NSUP_OPER;
+    return backend_->readStatusByte(deadline, statusByte);
+}
+
+ViStatus Session::trigger()
+{
+    std::lock_guard lock(mutex_);
+    const Deadline deadline(settings_.timeoutMs);
+    if (!backend_->isStream()) return backend_->trigger(deadline);
+    if (ioProtocol_ != VI_PROT_4882_STRS) return VI_ERROR_NSUP_OPER;
+    static constexpr uint8_t kTrigger[] = "*TRG\n";
+    size_t written = 0;
+    return backend_->write(kTrigger, sizeof kTrigger - 1, deadline, written);
+}
+
+ViStatus Session::flush(uint16_t mask)
+{
+    constexpr uint16_t kKnown = 0xFF;
+    if (mask == 0 || (mask & ~kKnown) != 0) return VI_ERROR_INV_MASK;
+    std::lock_guard lock(mutex_);
+    // We keep no write buffer, so writes are always flushed; received bytes can be dropped.
+    if (mask & (VI_READ_BUF | VI_READ_BUF_DISCARD | VI_IO_IN_BUF_DISCARD)) queue_.clear();
+    backend_->discardSystemBuffers(mask);
+    return VI_SUCCESS;
+}
+
+ViStatus Session::lock(ViAccessMode type, ViUInt32 timeoutMs, std::string& key)
+{
+    return processLocks().lock(lockName_, this, type, timeoutMs, key);
+}
+
+ViStatus Session::unlock()
+{
+    return processLocks().unlock(lockName_, this);
 }
 
 void copyAttributeText(const std::string& text, void* value)

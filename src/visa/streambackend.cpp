@@ -8,7 +8,9 @@ ViStatus StreamBackend::fetch(size_t, const ReadSettings& settings, const Deadli
     if (channel_.available() == 0)
         if (const ViStatus status = channel_.receiveMore(deadline); status != VI_SUCCESS) return status;
     while (channel_.available() > 0) {
-        const size_t end = scanner_.scan(channel_.data(), channel_.available(), settings.termChar);
+        const size_t end = settings.streamEndsAtTerm
+                               ? scanner_.scan(channel_.data(), channel_.available(), settings.termChar)
+                               : LineScanner::kNoEnd;
         const size_t count = end == LineScanner::kNoEnd ? channel_.available() : end;
         queue.push(channel_.data(), count, end != LineScanner::kNoEnd);
         channel_.consume(count);

@@ -16,6 +16,8 @@ class StreamBackend : public Backend {
                    InputQueue& queue) override;
     ViStatus write(const uint8_t* data, size_t size, const Deadline& deadline, size_t& written) override;
     ViStatus clear(const Deadline& deadline) override;
+    size_t pending() const override { return channel_.available(); }
+    bool isStream() const override { return true; }
 
   protected:
     const FdChannel& channel() const { return channel_; }

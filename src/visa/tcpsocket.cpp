@@ -63,4 +63,17 @@ void setTcpOptions(const FdChannel& channel, bool keepAlive, bool noDelay)
     ::setsockopt(channel.fd(), IPPROTO_TCP, TCP_NODELAY, &nodelay, sizeof nodelay);
 }
 
+std::string numericAddress(const std::string& host)
+{
+    addrinfo hints{};
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    if (::getaddrinfo(host.c_str(), nullptr, &hints, &found) != 0 || !found) return host;
+    char text[NI_MAXHOST];
+    const bool named =
+        ::getnameinfo(found->ai_addr, found->ai_addrlen, text, sizeof text, nullptr, 0, NI_NUMERICHOST) == 0;
+    ::freeaddrinfo(found);
+    return named ? std::string(text) : host;
+}
+
 } // namespace selvane::visa

@@ -16,4 +16,7 @@ ViStatus connectTcp(const std::string& host, uint16_t port, FdChannel& channel);
 
 void setTcpOptions(const FdChannel& channel, bool keepAlive, bool noDelay);
 
+// The host's first address in numeric form; the host itself when it does not resolve.
+std::string numericAddress(const std::string& host);
+
 } // namespace selvane::visa

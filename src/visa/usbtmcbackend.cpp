@@ -32,6 +32,17 @@ class UsbtmcBackend : public Backend {
         return ::ioctl(fd_, USBTMC_IOCTL_CLEAR) == 0 ? VI_SUCCESS : VI_ERROR_IO;
     }
     ViStatus apply(const SessionSettings& settings) override;
+    ViStatus readStatusByte(const Deadline&, uint16_t& statusByte) override
+    {
+        unsigned char value = 0;
+        if (::ioctl(fd_, USBTMC488_IOCTL_READ_STB, &value) != 0) return statusFromErrno(errno);
+        statusByte = value;
+        return VI_SUCCESS;
+    }
+    ViStatus trigger(const Deadline&) override
+    {
+        return ::ioctl(fd_, USBTMC488_IOCTL_TRIGGER) == 0 ? VI_SUCCESS : statusFromErrno(errno);
+    }
 
   private:
     // The driver's time-out is per transfer; give each transfer what is left of the call's.

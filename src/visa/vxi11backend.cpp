@@ -20,6 +20,8 @@ enum Procedure : uint32_t {
     CreateLink = 10,
     DeviceWrite = 11,
     DeviceRead = 12,
+    DeviceReadStb = 13,
+    DeviceTrigger = 14,
     DeviceClear = 15,
     DestroyLink = 23
 };
@@ -70,8 +72,11 @@ class Vxi11Backend : public Backend {
     ViStatus apply(const SessionSettings& settings) override
     {
         setTcpOptions(client_.channel(), settings.keepAlive, settings.noDelay);
+        sendEnd_ = settings.sendEnd;
         return VI_SUCCESS;
     }
+    ViStatus readStatusByte(const Deadline& deadline, uint16_t& statusByte) override;
+    ViStatus trigger(const Deadline& deadline) override;
 
   private:
     // One call; the reply's first word is the device error, the reader stands behind it.
@@ -84,6 +89,7 @@ class Vxi11Backend : public Backend {
     uint32_t link_ = 0;
     bool linked_ = false;
     size_t maxRecvSize_ = kMinimumRecvSize;
+    bool sendEnd_ = true;
 };
 
 Vxi11Backend::~Vxi11Backend()
@@ -143,7 +149,7 @@ ViStatus Vxi11Backend::write(const uint8_t* data, size_t size, const Deadline& d
         const size_t piece = std::min(size - written, maxRecvSize_);
         size_t accepted = 0;
         const ViStatus status =
-            writePiece(data + written, piece, written + piece == size, deadline, accepted);
+            writePiece(data + written, piece, written + piece == size && sendEnd_, deadline, accepted);
         written += accepted;
         if (status != VI_SUCCESS) return status;
         if (accepted == 0 && piece > 0) return VI_ERROR_IO;
@@ -172,6 +178,28 @@ ViStatus Vxi11Backend::clear(const Deadline& deadline)
     std::vector<uint8_t> results;
     XdrReader reader(nullptr, 0);
     return call(DeviceClear, XdrWriter().u32(link_).u32(0).u32(0).u32(deadline.remainingMs()), deadline,
+                results, reader);
+}
+
+// Device_GenericParms: link, flags, lock time-out, I/O time-out.
+ViStatus Vxi11Backend::readStatusByte(const Deadline& deadline, uint16_t& statusByte)
+{
+    std::vector<uint8_t> results;
+    XdrReader reader(nullptr, 0);
+    const ViStatus status =
+        call(DeviceReadStb, XdrWriter().u32(link_).u32(0).u32(0).u32(deadline.remainingMs()), deadline,
+             results, reader);
+    const uint32_t value = reader.u32();
+    if (status == VI_SUCCESS && !reader.ok()) return VI_ERROR_IO;
+    if (status == VI_SUCCESS) statusByte = uint16_t(value & 0xFF);
+    return status;
+}
+
+ViStatus Vxi11Backend::trigger(const Deadline& deadline)
+{
+    std::vector<uint8_t> results;
+    XdrReader reader(nullptr, 0);
+    return call(DeviceTrigger, XdrWriter().u32(link_).u32(0).u32(0).u32(deadline.remainingMs()), deadline,
                 results, reader);
 }
 

@@ -47,6 +47,7 @@ struct ReadCase {
     std::deque<Piece> pieces;
     bool termCharEnabled;
     std::vector<Expected> reads;
+    bool suppressEnd = false;
 };
 
 std::ostream& operator<<(std::ostream& out, const ReadCase& c)
@@ -63,6 +64,7 @@ TEST_P(ReadEnds, WithTheStatusAndBytesOfVisa)
     InputQueue queue;
     ReadSettings settings;
     settings.termCharEnabled = c.termCharEnabled;
+    settings.suppressEnd = c.suppressEnd;
     for (size_t i = 0; i < c.reads.size(); ++i) {
         const Expected& expected = c.reads[i];
         std::string buffer(expected.count, '\0');
@@ -116,7 +118,12 @@ INSTANTIATE_TEST_SUITE_P(
                       ReadCase{"the term character means nothing when not enabled",
                                {{"a\nb\n", true}},
                                false,
-                               {{256, VI_SUCCESS, "a\nb\n"}}}));
+                               {{256, VI_SUCCESS, "a\nb\n"}}},
+                      ReadCase{"suppressed END: the read runs on to the term character",
+                               {{"one", true}, {"two\nx", true}},
+                               true,
+                               {{256, VI_SUCCESS_TERM_CHAR, "onetwo\n"}, {256, VI_ERROR_TMO, "x"}},
+                               true}));
 
 struct ScanCase {
     const char* what;

@@ -99,6 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
                       "USB0::0x1234::0x5678::SN::x::INSTR", "USB0::0x1234::0x5678::SN::1::2::INSTR",
                       "USB0::0x1234::0x5678::SN::SOCKET", "GPIB0::31::INSTR", "GPIB0::INSTR",
                       "GPIB0::1::2::3::INSTR", "GPIB0::5::SOCKET", "ASRL1::2::INSTR", "ASRL/::INSTR",
-                      "ASRL99999999999::INSTR"));
+                      "ASRL99999999999::INSTR", "ASRL/dev/ttyU]B0::I-STR", "ASRL/dev/tty:S0::INSTR",
+                      "USB0::0x1234::0x5678::SN:::INSTR", "USB0::1::2::[SN::INSTR"));
 
 } // namespace

@@ -1,0 +1,291 @@
+// The shared library's exported calls as a C program sees them (through
+// dlopen): bad input gets the standard status and nothing crashes.
+#include "visa/visa.h"
+#include "visa/visaextras.h"
+#include "visatesting.h"
+
+#include <cstring>
+#include <dlfcn.h>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace {
+
+template <typename Function> Function* symbol(void* library, const char* name)
+{
+    return library ? reinterpret_cast<Function*>(::dlsym(library, name)) : nullptr;
+}
+
+// The library's own entry points, not the program's front end of the same names.
+struct Exports {
+    void* library = ::dlopen(SELVANE_VISA_SHARED_PATH, RTLD_NOW | RTLD_LOCAL);
+#define SELVANE_EXPORT(name) decltype(::name)* name = symbol<decltype(::name)>(library, #name)
+    SELVANE_EXPORT(viOpenDefaultRM);
+    SELVANE_EXPORT(viOpen);
+    SELVANE_EXPORT(viClose);
+    SELVANE_EXPORT(viRead);
+    SELVANE_EXPORT(viWrite);
+    SELVANE_EXPORT(viClear);
+    SELVANE_EXPORT(viGetAttribute);
+    SELVANE_EXPORT(viSetAttribute);
+    SELVANE_EXPORT(viFindRsrc);
+#undef SELVANE_EXPORT
+#define SELVANE_EXTRA(name, function)                                                                        \
+    decltype(selvane::visa::function)* name = symbol<decltype(selvane::visa::function)>(library, #name)
+    SELVANE_EXTRA(viParseRsrcEx, parseResourceEx);
+    SELVANE_EXTRA(viReadSTB, readStatusByte);
+    SELVANE_EXTRA(viAssertTrigger, assertTrigger);
+    SELVANE_EXTRA(viFlush, flush);
+    SELVANE_EXTRA(viSetBuf, setBuffer);
+    SELVANE_EXTRA(viStatusDesc, statusDescription);
+    SELVANE_EXTRA(viLock, lock);
+    SELVANE_EXTRA(viUnlock, unlock);
+    SELVANE_EXTRA(viEnableEvent, enableEvent);
+    SELVANE_EXTRA(viDisableEvent, disableEvent);
+    SELVANE_EXTRA(viWaitOnEvent, waitOnEvent);
+    SELVANE_EXTRA(viGpibControlREN, gpibControlRen);
+    SELVANE_EXTRA(viReadToFile, readToFile);
+    SELVANE_EXTRA(viWriteFromFile, writeFromFile);
+#undef SELVANE_EXTRA
+};
+
+Exports& lib()
+{
+    static Exports exports;
+    return exports;
+}
+
+constexpr ViSession kNeverOpened = 0x7654321;
+constexpr ViAttr kUnknownAttribute = 0x3FFF7777u;
+
+struct Case {
+    const char* what;
+    std::function<ViStatus(ViSession manager, ViSession session)> call;
+    ViStatus expected;
+};
+
+// One manager and one SOCKET session on a peer that never answers.
+class ExportedCalls : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        ASSERT_NE(lib().library, nullptr) << ::dlerror();
+        ASSERT_NE(lib().viWriteFromFile, nullptr);
+        ASSERT_EQ(lib().viOpenDefaultRM(&manager), VI_SUCCESS);
+        ASSERT_EQ(lib().viOpen(manager, peer.socketResource().c_str(), VI_NO_LOCK, 0, &session), VI_SUCCESS);
+        ASSERT_EQ(lib().viSetAttribute(session, VI_ATTR_TMO_VALUE, 50), VI_SUCCESS);
+    }
+    void TearDown() override { lib().viClose(manager); }
+
+    void run(const std::vector<Case>& cases)
+    {
+        for (const Case& c : cases)
+            EXPECT_EQ(c.call(manager, session), c.expected)
+                << c.what << ": " << viStatusName(c.call(manager, session));
+    }
+
+    TcpPeer peer;
+    ViSession manager = VI_NULL;
+    ViSession session = VI_NULL;
+};
+
+TEST_F(ExportedCalls, BadInputGetsTheStandardStatus)
+{
+    const std::string huge(10000, 'A');
+    const std::string hugeTcpip = "TCPIP0::" + huge + "::INSTR";
+    ViByte buffer[16];
+    ViUInt32 count = 0;
+    ViUInt16 value16 = 0;
+    char text[VI_FIND_BUFLEN];
+    const auto& v = lib();
+    run({
+        {"10,000-character name",
+         [&](ViSession m, ViSession) {
+             ViSession s;
+             return v.viOpen(m, hugeTcpip.c_str(), 0, 0, &s);
+         },
+         VI_ERROR_INV_RSRC_NAME},
+        {"10,000-character parse",
+         [&](ViSession m, ViSession) {
+             return v.viParseRsrcEx(m, huge.c_str(), &value16, &value16, text, text, text);
+         },
+         VI_ERROR_INV_RSRC_NAME},
+        {"unknown interface",
+         [&](ViSession m, ViSession) {
+             ViSession s;
+             return v.viOpen(m, "FOO0::1::INSTR", 0, 0, &s);
+         },
+         VI_ERROR_INV_RSRC_NAME},
+        {"null name",
+         [&](ViSession m, ViSession) {
+             return v.viParseRsrcEx(m, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
+         },
+         VI_ERROR_INV_RSRC_NAME},
+        {"parse on a session",
+         [&](ViSession, ViSession s) {
+             return v.viParseRsrcEx(s, "ASRL1::INSTR", &value16, &value16, text, text, text);
+         },
+         VI_ERROR_INV_OBJECT},
+        {"read, never opened",
+         [&](ViSession, ViSession) { return v.viRead(kNeverOpened, buffer, 16, &count); },
+         VI_ERROR_INV_OBJECT},
+        {"write, never opened",
+         [&](ViSession, ViSession) { return v.viWrite(kNeverOpened, buffer, 16, &count); },
+         VI_ERROR_INV_OBJECT},
+        {"status byte, never opened",
+         [&](ViSession, ViSession) { return v.viReadSTB(kNeverOpened, &value16); }, VI_ERROR_INV_OBJECT},
+        {"lock, never opened",
+         [&](ViSession, ViSession) { return v.viLock(kNeverOpened, VI_EXCLUSIVE_LOCK, 0, nullptr, nullptr); },
+         VI_ERROR_INV_OBJECT},
+        {"attribute, never opened",
+         [&](ViSession, ViSession) { return v.viGetAttribute(kNeverOpened, VI_ATTR_TMO_VALUE, &count); },
+         VI_ERROR_INV_OBJECT},
+        {"event, never opened",
+         [&](ViSession, ViSession) {
+             return v.viEnableEvent(kNeverOpened, VI_EVENT_SERVICE_REQ, VI_QUEUE, 0);
+         },
+         VI_ERROR_INV_OBJECT},
+        {"null read buffer", [&](ViSession, ViSession s) { return v.viRead(s, nullptr, 16, &count); },
+         VI_ERROR_INV_PARAMETER},
+        {"null write buffer", [&](ViSession, ViSession s) { return v.viWrite(s, nullptr, 16, &count); },
+         VI_ERROR_INV_PARAMETER},
+        {"null attribute value",
+         [&](ViSession, ViSession s) { return v.viGetAttribute(s, VI_ATTR_TMO_VALUE, nullptr); },
+         VI_ERROR_INV_PARAMETER},
+        {"null status byte", [&](ViSession, ViSession s) { return v.viReadSTB(s, nullptr); },
+         VI_ERROR_INV_PARAMETER},
+        {"null description", [&](ViSession, ViSession s) { return v.viStatusDesc(s, VI_ERROR_TMO, nullptr); },
+         VI_ERROR_INV_PARAMETER},
+        {"null file name", [&](ViSession, ViSession s) { return v.viReadToFile(s, nullptr, 16, &count); },
+         VI_ERROR_INV_PARAMETER},
+        {"missing file",
+         [&](ViSession, ViSession s) { return v.viWriteFromFile(s, "/nonexistent/selvane", 16, &count); },
+         VI_ERROR_FILE_ACCESS},
+        {"read of zero bytes", [&](ViSession, ViSession s) { return v.viRead(s, buffer, 0, &count); },
+         VI_SUCCESS_MAX_CNT},
+        {"write of zero bytes", [&](ViSession, ViSession s) { return v.viWrite(s, buffer, 0, &count); },
+         VI_SUCCESS},
+        {"silent peer", [&](ViSession, ViSession s) { return v.viRead(s, buffer, 16, &count); },
+         VI_ERROR_TMO},
+        {"unknown attribute",
+         [&](ViSession, ViSession s) { return v.viSetAttribute(s, kUnknownAttribute, 1); },
+         VI_ERROR_NSUP_ATTR},
+        {"serial attribute on a socket",
+         [&](ViSession, ViSession s) { return v.viGetAttribute(s, VI_ATTR_ASRL_BAUD, &count); },
+         VI_ERROR_NSUP_ATTR},
+        {"read-only attribute",
+         [&](ViSession, ViSession s) { return v.viSetAttribute(s, VI_ATTR_RSRC_NAME, 0); },
+         VI_ERROR_ATTR_READONLY},
+        {"term character out of range",
+         [&](ViSession, ViSession s) { return v.viSetAttribute(s, VI_ATTR_TERMCHAR, 300); },
+         VI_ERROR_NSUP_ATTR_STATE},
+        {"status byte on a plain socket", [&](ViSession, ViSession s) { return v.viReadSTB(s, &value16); },
+         VI_ERROR_NSUP_OPER},
+        {"trigger on a plain socket", [&](ViSession, ViSession s) { return v.viAssertTrigger(s, 0); },
+         VI_ERROR_NSUP_OPER},
+        {"REN without GPIB", [&](ViSession, ViSession s) { return v.viGpibControlREN(s, 1); },
+         VI_ERROR_NSUP_OPER},
+        {"flush mask 0", [&](ViSession, ViSession s) { return v.viFlush(s, 0); }, VI_ERROR_INV_MASK},
+        {"buffer mask 0x100", [&](ViSession, ViSession s) { return v.viSetBuf(s, 0x100, 4096); },
+         VI_ERROR_INV_MASK},
+        {"lock type 7", [&](ViSession, ViSession s) { return v.viLock(s, 7, 0, nullptr, nullptr); },
+         VI_ERROR_INV_LOCK_TYPE},
+        {"unlock without lock", [&](ViSession, ViSession s) { return v.viUnlock(s); }, VI_ERROR_SESN_NLOCKED},
+        {"event mechanism 99",
+         [&](ViSession, ViSession s) { return v.viEnableEvent(s, VI_EVENT_SERVICE_REQ, 99, 0); },
+         VI_ERROR_INV_MECH},
+        {"service requests",
+         [&](ViSession, ViSession s) { return v.viEnableEvent(s, VI_EVENT_SERVICE_REQ, VI_QUEUE, 0); },
+         VI_ERROR_INV_EVENT},
+        {"disable all",
+         [&](ViSession, ViSession s) { return v.viDisableEvent(s, VI_ALL_ENABLED_EVENTS, VI_ALL_MECH); },
+         VI_SUCCESS_EVENT_DIS},
+        {"wait without events",
+         [&](ViSession, ViSession s) {
+             return v.viWaitOnEvent(s, VI_ALL_ENABLED_EVENTS, 0, nullptr, nullptr);
+         },
+         VI_ERROR_NENABLED},
+        {"unknown status text", [&](ViSession, ViSession s) { return v.viStatusDesc(s, 0x12345, text); },
+         VI_WARN_UNKNOWN_STATUS},
+    });
+}
+
+// Each numeric attribute is written at its own width and not a byte beyond.
+TEST_F(ExportedCalls, SessionAttributesHaveTheirStandardValuesAndWidths)
+{
+    const auto& v = lib();
+    ViUInt32 count = 0;
+    ASSERT_EQ(v.viWrite(session, reinterpret_cast<const ViByte*>("abc"), 3, &count), VI_SUCCESS);
+    struct Row {
+        ViAttr attribute;
+        size_t width;
+        uint64_t value;
+    };
+    const Row rows[] = {{VI_ATTR_INTF_TYPE, 2, VI_INTF_TCPIP},
+                        {VI_ATTR_INTF_NUM, 2, 0},
+                        {VI_ATTR_TCPIP_PORT, 2, peer.port()},
+                        {VI_ATTR_TERMCHAR, 1, '\n'},
+                        {VI_ATTR_SEND_END_EN, 2, VI_TRUE},
+                        {VI_ATTR_TCPIP_NODELAY, 2, VI_TRUE},
+                        {VI_ATTR_TMO_VALUE, 4, 50},
+                        {VI_ATTR_RSRC_LOCK_STATE, 4, VI_NO_LOCK},
+                        {VI_ATTR_IO_PROT, 2, VI_PROT_NORMAL},
+                        {VI_ATTR_RSRC_SPEC_VERSION, 4, 0x00700100u},
+                        {VI_ATTR_RET_COUNT_32, 4, 3},
+                        {VI_ATTR_RET_COUNT_64, 8, 3}};
+    for (const Row& row : rows) {
+        uint8_t bytes[16];
+        std::memset(bytes, 0xEE, sizeof bytes);
+        ASSERT_EQ(v.viGetAttribute(session, row.attribute, bytes), VI_SUCCESS) << std::hex << row.attribute;
+        uint64_t value = 0;
+        std::memcpy(&value, bytes, row.width);
+        EXPECT_EQ(value, row.value) << std::hex << row.attribute;
+        EXPECT_EQ(bytes[row.width], 0xEE) << "wider than its type: " << std::hex << row.attribute;
+    }
+    const char* texts[][2] = {
+        {"RSRC_CLASS", "SOCKET"}, {"TCPIP_ADDR", "127.0.0.1"}, {"RSRC_MANF_NAME", "Selvane"}};
+    const ViAttr textIds[] = {VI_ATTR_RSRC_CLASS, VI_ATTR_TCPIP_ADDR, VI_ATTR_RSRC_MANF_NAME};
+    for (size_t i = 0; i < std::size(textIds); ++i) {
+        char text[VI_FIND_BUFLEN] = "";
+        EXPECT_EQ(v.viGetAttribute(session, textIds[i], text), VI_SUCCESS) << texts[i][0];
+        EXPECT_STREQ(text, texts[i][1]) << texts[i][0];
+    }
+}
+
+TEST_F(ExportedCalls, ParsingAndLockingFollowTheStandard)
+{
+    const auto& v = lib();
+    ViUInt16 type = 0, board = 0;
+    char rsrcClass[VI_FIND_BUFLEN], expanded[VI_FIND_BUFLEN], alias[VI_FIND_BUFLEN];
+    ASSERT_EQ(v.viParseRsrcEx(manager, "tcpip3::Example.COM::5025::socket", &type, &board, rsrcClass,
+                              expanded, alias),
+              VI_SUCCESS);
+    EXPECT_EQ(type, VI_INTF_TCPIP);
+    EXPECT_EQ(board, 3);
+    EXPECT_STREQ(rsrcClass, "SOCKET");
+    EXPECT_STREQ(expanded, "TCPIP3::Example.COM::5025::SOCKET");
+    EXPECT_STREQ(alias, "");
+
+    // A second session of the same resource waits for the lock and is refused I/O meanwhile.
+    ViSession other = VI_NULL;
+    ASSERT_EQ(v.viOpen(manager, peer.socketResource().c_str(), VI_NO_LOCK, 0, &other), VI_SUCCESS);
+    char key[VI_FIND_BUFLEN] = "";
+    ASSERT_EQ(v.viLock(session, VI_SHARED_LOCK, 0, "bench", key), VI_SUCCESS);
+    EXPECT_STREQ(key, "bench");
+    EXPECT_EQ(v.viLock(session, VI_SHARED_LOCK, 0, nullptr, key), VI_SUCCESS_NESTED_SHARED);
+    EXPECT_EQ(v.viLock(other, VI_EXCLUSIVE_LOCK, 20, nullptr, nullptr), VI_ERROR_TMO);
+    ViUInt32 count = 0;
+    EXPECT_EQ(v.viWrite(other, reinterpret_cast<const ViByte*>("x"), 1, &count), VI_ERROR_RSRC_LOCKED);
+    EXPECT_EQ(v.viLock(other, VI_SHARED_LOCK, 0, "bench", key), VI_SUCCESS) << "the key shares the lock";
+    ViUInt32 state = 0;
+    EXPECT_EQ(v.viGetAttribute(other, VI_ATTR_RSRC_LOCK_STATE, &state), VI_SUCCESS);
+    EXPECT_EQ(state, VI_SHARED_LOCK);
+    EXPECT_EQ(v.viUnlock(session), VI_SUCCESS_NESTED_SHARED);
+    EXPECT_EQ(v.viUnlock(session), VI_SUCCESS);
+    EXPECT_EQ(v.viClose(other), VI_SUCCESS) << "closing lets its lock go";
+    EXPECT_EQ(v.viLock(session, VI_EXCLUSIVE_LOCK, 0, nullptr, nullptr), VI_SUCCESS);
+    EXPECT_EQ(v.viUnlock(session), VI_SUCCESS);
+}
+
+} // namespace
