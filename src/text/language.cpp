@@ -1,6 +1,7 @@
 #include "text/language.h"
 
 #include "text/messages.h"
+#include "text/valuetext.h"
 #include "platform/platform.h"
 
 #include <QCoreApplication>
@@ -39,4 +40,6 @@ void ResetLanguageState()
 {
     Language = LanguageEnglish;
     LoadMessages();
+    ValueValid = false;
+    SetLevelQuery(nullptr);
 }
