@@ -1,8 +1,8 @@
 #include "text/language.h"
 
+#include "platform/platform.h"
 #include "text/messages.h"
 #include "text/valuetext.h"
-#include "platform/platform.h"
 
 #include <QCoreApplication>
 #include <QDir>

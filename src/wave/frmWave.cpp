@@ -304,6 +304,7 @@ void frmWave::ChkCH_Click(int index)
     ChannelBox box{ChkCH[index]->isEnabled(), ChkCH[index]->isChecked()};
     ApplyChannelClick(record(), index, box, Connecting);
     ChkCH[index]->setChecked(box.checked);
+    Form_Resize();
 }
 
 void frmWave::closeEvent(QCloseEvent* event)

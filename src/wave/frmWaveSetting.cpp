@@ -103,7 +103,7 @@ void frmWaveSetting::TargetCombo_Click()
         SourceCombo->addItems(*chosen.sources);
         SourceCombo->setCurrentIndex(0);
     }
-    SourceCombo->setEnabled(chosen.sourceEnabled);
+    if (chosen.disablesSource) SourceCombo->setEnabled(false);
     target_ = chosen.slot;
 }
 
