@@ -331,6 +331,7 @@ frmWave* CreateWaveWindow(QMdiArea* area, int slot)
     if (area) {
         QMdiSubWindow* child = area->addSubWindow(window);
         child->setObjectName(QStringLiteral("WaveChild"));
+        child->setAttribute(Qt::WA_DeleteOnClose);
         child->show();
     } else {
         window->setAttribute(Qt::WA_DeleteOnClose);
