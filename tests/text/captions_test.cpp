@@ -59,11 +59,12 @@ INSTANTIATE_TEST_SUITE_P(
         ListShape{CaptionList::MemoryWaveSecond, 21, 21, 21},
         ListShape{CaptionList::MeasureNames, 18, 18, 18}, ListShape{CaptionList::ValueWords, 33, 39, 39},
         ListShape{CaptionList::ValueWordsSecond, 60, 61, 67}, ListShape{CaptionList::NodeNames, 89, 62, 90},
-        ListShape{CaptionList::ResourceDialog, 4, 4, 4}));
+        ListShape{CaptionList::ResourceDialog, 4, 4, 4}, ListShape{CaptionList::WaveSetting, 11, 11, 11},
+        ListShape{CaptionList::About, 2, 2, 2}));
 
 TEST(CaptionLists, EveryListIsCovered)
 {
-    EXPECT_EQ(CaptionListCount, 27);
+    EXPECT_EQ(CaptionListCount, 29);
 }
 
 struct Expected {
