@@ -101,4 +101,20 @@ INSTANTIATE_TEST_SUITE_P(
         WindowCase{"Progress", plain<frmPrgress>()}),
     [](const auto& info) { return std::string(info.param.name); });
 
+// The table windows' buttons take their lists' captions, tooltips included.
+TEST_F(WaveWindowTest, TableWindowButtonsSpeakTheListsChinese)
+{
+    Language = LanguageChinese;
+    for (QWidget* window :
+         {static_cast<QWidget*>(new frmData(0)), static_cast<QWidget*>(new frmMeasure(0))}) {
+        auto* refresh = window->findChild<QAbstractButton*>("cmdRefresh");
+        auto* output = window->findChild<QAbstractButton*>("cmdExport");
+        EXPECT_EQ(refresh->text(), u" 更新 .");
+        EXPECT_EQ(refresh->toolTip(), u"更新数据(F5)");
+        EXPECT_EQ(output->text(), u"导出 .");
+        EXPECT_EQ(output->toolTip(), u"输出");
+        delete window;
+    }
+}
+
 } // namespace
