@@ -1,6 +1,8 @@
 #include "acquire/acquirereset.h"
 
 #include "acquire/operation.h"
+#include "acquire/readdatatable.h"
+#include "acquire/readwavewindow.h"
 #include "acquire/tabletext.h"
 #include "acquire/wavebytes.h"
 #include "acquire/waverecord.h"
@@ -11,4 +13,6 @@ void ResetAcquireState()
     ResetWaveBytes();
     ResetTableTexts();
     ResetOperationState();
+    LastTableReading = TableReading{};
+    XyChannelShown = nullptr;
 }

@@ -143,4 +143,6 @@ void ResetOperationState()
     headless.setBarValue(0);
     WaveParameterBlock = WaveParameter{};
     TriggerStatusText.clear();
+    ProgressPercentChanged = nullptr;
+    WaveReadingEnded = nullptr;
 }

@@ -28,11 +28,6 @@ DataRows DataRowsOf(const DataRecord& record)
     return {first, last};
 }
 
-void ClearDataSlot(int slot)
-{
-    if (slot >= 0 && slot < DataRecordCount) DataRecords[size_t(slot)] = DataRecord{};
-}
-
 void ResetDataRecords()
 {
     for (DataRecord& record : DataRecords)

@@ -40,6 +40,4 @@ struct DataRows {
 };
 DataRows DataRowsOf(const DataRecord& record);
 
-// A new window's slot starts without a reading.
-void ClearDataSlot(int slot);
 void ResetDataRecords();

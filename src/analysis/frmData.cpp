@@ -27,9 +27,10 @@ bool validSlot(int slot)
 
 QStringList headers(bool peak)
 {
-    QStringList names = IsChinese(Language) ? QStringList{"序号", "时间[S]", "电压[V]", "电压2[V]"}
-                                            : QStringList{"NO.", "Time[S]", "Voltage[V]", "Voltage2[V]"};
-    if (!peak) names.removeLast();
+    constexpr int firstColumn = 2; // "NO." follows the two buttons in the caption list
+    QStringList names;
+    for (int column = 0; column < (peak ? 4 : 3); ++column)
+        names << Caption(CaptionList::Data, firstColumn + column, Language);
     return names;
 }
 
@@ -55,7 +56,7 @@ DataRecord& frmData::record() const
 
 void frmData::SetCaptions(int language)
 {
-    setButtonTexts(language);
+    setButtonTexts(CaptionList::Data, language);
     SetDataColumns(record().IsPeak);
 }
 

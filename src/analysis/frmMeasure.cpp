@@ -78,7 +78,7 @@ MeasureRecord& frmMeasure::record() const
 
 void frmMeasure::SetCaptions(int language)
 {
-    setButtonTexts(language);
+    setButtonTexts(CaptionList::Measure, language);
     const bool zh = IsChinese(language);
     cmdPassFailed->setText(zh ? QStringLiteral(" 通过&&失败") : QStringLiteral(" Pass&&Fail"));
     MeasureView->setHeaderLabels(headers(language));

@@ -42,11 +42,6 @@ QString MeasureItemName(int row, int language)
     return IsChinese(language) ? QString::fromUtf16(item.chinese) : QString::fromLatin1(item.english);
 }
 
-void ClearMeasureSlot(int slot)
-{
-    if (slot >= 0 && slot < MeasureRecordCount) MeasureRecords[size_t(slot)] = MeasureRecord{};
-}
-
 void ResetMeasureRecords()
 {
     for (MeasureRecord& record : MeasureRecords)

@@ -50,6 +50,4 @@ extern const std::array<MeasureItemInfo, MeasureItemCount> MeasureItems;
 int MeasureRowOf(const QString& english);
 QString MeasureItemName(int row, int language);
 
-// A new window's slot starts empty: no values, no limits, no legend.
-void ClearMeasureSlot(int slot);
 void ResetMeasureRecords();

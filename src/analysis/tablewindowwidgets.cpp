@@ -3,6 +3,7 @@
 #include "acquire/frmPrgress.h"
 #include "acquire/operation.h"
 #include "link/linkstate.h"
+#include "text/captionwidgets.h"
 #include "text/language.h"
 #include "wave/refreshloop.h"
 #include "wave/wavechannels.h"
@@ -93,13 +94,16 @@ void TableWindowBase::setSlot(int slot)
     forms_[size_t(slot_)] = this;
 }
 
-void TableWindowBase::setButtonTexts(int language)
+// Both lists open with the two buttons and end with their two tooltips.
+void TableWindowBase::setButtonTexts(CaptionList list, int language)
 {
-    const bool zh = IsChinese(language);
-    cmdRefresh->setText(zh ? QStringLiteral(" 刷新") : QStringLiteral(" Refresh"));
-    cmdExport->setText(zh ? QStringLiteral(" 导出") : QStringLiteral(" Export"));
-    cmdRefresh->setToolTip(zh ? QStringLiteral("刷新数据(F5)") : QStringLiteral("Refresh Data(F5)"));
-    cmdExport->setToolTip(zh ? QStringLiteral("输出") : QStringLiteral("Output"));
+    const int tips = CaptionSlotCount(list) - 2;
+    ApplyCaptions(this, list,
+                  {{"cmdRefresh", 0},
+                   {"cmdExport", 1},
+                   {"cmdRefresh", tips, CaptionRole::ToolTip},
+                   {"cmdExport", tips + 1, CaptionRole::ToolTip}},
+                  language);
 }
 
 void TableWindowBase::cmdRefresh_Click()

@@ -4,6 +4,8 @@
 // refresh and export buttons, the legend label, and the refresh loop with its
 // two timers. The window holds its slot number as its tag.
 
+#include "text/captions.h"
+
 #include <QMdiArea>
 #include <QPointer>
 #include <QWidget>
@@ -48,7 +50,7 @@ class TableWindowBase : public QWidget {
     virtual void OptionCH_Click(int index);
     // Runs operation code and waits for it; false when nothing ran.
     bool runReading(int code, const QString& caption);
-    void setButtonTexts(int language);
+    void setButtonTexts(CaptionList list, int language);
 
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

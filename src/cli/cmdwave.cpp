@@ -5,10 +5,8 @@
 #include "acquire/readblocks.h"
 #include "acquire/waverecord.h"
 #include "link/devicefacts.h"
-#include "link/linkcommands.h"
 #include "link/timeouttimer.h"
 #include "link/vocabulary.h"
-#include "wave/alternation.h"
 #include "wave/qimagesurface.h"
 #include "wave/wavedrawing.h"
 
@@ -108,9 +106,7 @@ int RunWaveCommand(const QStringList& arguments)
     chooseChannels(record, options.channels);
     RunReadingFrame(OperationWaveWindow);
     record.HasData = true;
-    const InstrumentQuery previous = SetAlternationSourceQuery([](const QString& q) { return AskCmd(q); });
     const QImage picture = drawRecord(record, options.zoom);
-    SetAlternationSourceQuery(previous);
     CloseLink();
     if (picture.save(options.out)) return 0;
     std::fprintf(stderr, "wave: can't write %s\n", qPrintable(options.out));

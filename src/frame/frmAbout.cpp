@@ -1,7 +1,9 @@
 #include "frame/frmAbout.h"
 
-#include "text/productinfo.h"
 #include "platform/platform.h"
+#include "text/captions.h"
+#include "text/language.h"
+#include "text/productinfo.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -23,7 +25,6 @@ QLabel* makeLabel(QWidget* parent, const char* name, const QString& text)
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent)
 {
     setObjectName("frmAbout");
-    setWindowTitle(QStringLiteral("About ") + ProgramTitle);
     picIcon = makeLabel(this, "picIcon", QString());
     picIcon->setPixmap(style()->standardIcon(QStyle::SP_ComputerIcon).pixmap(48, 48));
     picIcon->installEventFilter(this);
@@ -32,7 +33,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent)
     lblDescription = makeLabel(this, "lblDescription",
                                QStringLiteral("Remote control, waveform and measurement companion of the ") +
                                    ProductModel + QStringLiteral(" oscilloscopes.\n") + CompanyName);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
+    cmdOK = new QPushButton(this);
     cmdOK->setObjectName("cmdOK");
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
@@ -42,6 +43,13 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent)
     layout->addWidget(lblVersion, 1, 1);
     layout->addWidget(lblDescription, 2, 1);
     layout->addWidget(cmdOK, 3, 1, Qt::AlignRight);
+    SetCaptions(Language);
+}
+
+void frmAbout::SetCaptions(int language)
+{
+    setWindowTitle(Caption(CaptionList::About, 0, language) + ProgramTitle);
+    cmdOK->setText(Caption(CaptionList::About, 1, language));
 }
 
 void frmAbout::picIcon_Click()

@@ -11,6 +11,8 @@ class frmAbout : public QDialog {
   public:
     explicit frmAbout(QWidget* parent = nullptr);
 
+    // Sets every caption for the language; the product texts are the same in both.
+    void SetCaptions(int language);
     void picIcon_Click();
 
   protected:

@@ -25,4 +25,5 @@ void ResetDeviceFacts()
     SampleBase = 0;
     HasLa = false;
     MathDisplay.clear();
+    HasLaChanged = nullptr;
 }

@@ -3,6 +3,7 @@
 #include "link/devicefacts.h"
 #include "link/linklamp.h"
 #include "link/serialtransport.h"
+#include "link/usbtransport.h"
 
 int TransportType = TransportVisa;
 bool Connected = false;
@@ -73,5 +74,7 @@ void ResetLinkState()
     BaudRate = QStringLiteral("9600");
     SerialDevice.clear();
     LinkLampOn = false;
+    LinkLampChanged = nullptr;
+    PanelRunFlagsSet = nullptr;
     ResetDeviceFacts();
 }

@@ -2,15 +2,14 @@
 
 #include "sheet/frmDataSheetTree.h"
 
-#include "text/captionwidgets.h"
-#include "text/language.h"
-#include "text/productinfo.h"
 #include "sheet/frmSheetWindows.h"
 #include "sheet/sheetslots.h"
 #include "document/sheetstate.h"
 #include "stored/storedfiledialogs.h"
+#include "text/captionwidgets.h"
+#include "text/language.h"
+#include "text/productinfo.h"
 
-#include <QEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTreeWidget>
@@ -38,13 +37,7 @@ frmDataSheetTree::frmDataSheetTree(QWidget* parent) : QWidget(parent)
     connect(DataSheetTree, &QTreeWidget::customContextMenuRequested, this, &frmDataSheetTree::showMenu);
 }
 
-// The windows may outlive the pane while the main window is torn down.
-frmDataSheetTree::~frmDataSheetTree()
-{
-    for (auto& kindChildren : children)
-        for (Child& child : kindChildren)
-            if (child.window) child.window->removeEventFilter(this);
-}
+frmDataSheetTree::~frmDataSheetTree() = default;
 
 void frmDataSheetTree::SetCaptions(int language)
 {
@@ -68,7 +61,6 @@ void frmDataSheetTree::AddWindow(SheetKind kind)
     const int slot = ClaimSlot(kind);
     Child child;
     child.window = CreateSheetWindow(windowArea, kind, slot, SlotName(kind, slot));
-    if (child.window) child.window->installEventFilter(this);
     {
         const QSignalBlocker quiet(DataSheetTree);
         child.node = new QTreeWidgetItem(root(), {SlotName(kind, slot)});
@@ -91,11 +83,17 @@ void frmDataSheetTree::askForStoredFile(SheetKind kind)
         OpenFileDialog(RecordDialogRequest(Language));
 }
 
+// A window closed by its own frame went through its unload; its node opens it anew.
 void frmDataSheetTree::SetActiveForm()
 {
     Place place;
     if (!placeOf(currentNode(), place)) return;
-    QMdiSubWindow* window = childWindow(place.kind, place.slot);
+    takeOpenWindows(place.kind);
+    Child& child = childrenOf(place.kind)[static_cast<size_t>(place.slot)];
+    if (!child.window)
+        child.window =
+            CreateSheetWindow(windowArea, place.kind, place.slot, SlotName(place.kind, place.slot));
+    QMdiSubWindow* window = child.window;
     if (!window) return;
     window->show();
     window->raise();
@@ -116,21 +114,28 @@ void frmDataSheetTree::ChangeFormName(QTreeWidgetItem* node)
     sortIfFlagged();
 }
 
-// The window goes first: one that refuses to close (a reading under way) keeps its node.
+// A window that refuses to close (a reading under way) keeps its node and slot.
 void frmDataSheetTree::removeChild(SheetKind kind, int slot)
 {
     std::vector<Child>& list = childrenOf(kind);
     if (slot < 0 || slot >= static_cast<int>(list.size())) return;
-    const Child gone = list[static_cast<size_t>(slot)];
+    takeOpenWindows(kind);
+    QMdiSubWindow* window = list[static_cast<size_t>(slot)].window;
+    if (window && !window->close()) return;
+    delete list[static_cast<size_t>(slot)].node;
     list.erase(list.begin() + slot);
-    if (gone.window && !gone.window->close()) {
-        list.insert(list.begin() + slot, gone);
-        return;
-    }
-    delete gone.node;
     ReleaseSlot(kind, slot);
     for (size_t later = static_cast<size_t>(slot); later < list.size(); ++later)
         SetWindowTag(list[later].window, static_cast<int>(later));
+}
+
+// Windows of the kind's slots opened elsewhere (the FFT dialog opens its target)
+// belong to their nodes like the others.
+void frmDataSheetTree::takeOpenWindows(SheetKind kind)
+{
+    std::vector<Child>& list = childrenOf(kind);
+    for (size_t slot = 0; slot < list.size(); ++slot)
+        if (!list[slot].window) list[slot].window = OpenSheetWindow(kind, static_cast<int>(slot));
 }
 
 bool frmDataSheetTree::CloseSheet()
@@ -145,9 +150,10 @@ bool frmDataSheetTree::CloseSheet()
 
 void frmDataSheetTree::closeAllChildren()
 {
-    for (auto& kindChildren : children) {
+    for (SheetKind kind : AllSheetKinds) {
+        takeOpenWindows(kind);
         std::vector<Child> closing;
-        closing.swap(kindChildren);
+        closing.swap(childrenOf(kind));
         for (Child& child : closing)
             if (child.window) child.window->close();
     }
@@ -168,22 +174,12 @@ void frmDataSheetTree::sortIfFlagged()
     if (SheetSorted && root()) root()->sortChildren(0, Qt::AscendingOrder);
 }
 
-// A child closed by its own frame is only hidden; selecting its node shows it again.
-bool frmDataSheetTree::eventFilter(QObject* watched, QEvent* event)
-{
-    Place place;
-    if (event->type() != QEvent::Close || !placeOf(watched, place))
-        return QWidget::eventFilter(watched, event);
-    event->ignore();
-    static_cast<QWidget*>(watched)->hide();
-    return true;
-}
-
 QMdiSubWindow* frmDataSheetTree::childWindow(SheetKind kind, int slot) const
 {
     const std::vector<Child>& list = childrenOf(kind);
-    return slot >= 0 && slot < static_cast<int>(list.size()) ? list[static_cast<size_t>(slot)].window.data()
-                                                             : nullptr;
+    if (slot < 0 || slot >= static_cast<int>(list.size())) return nullptr;
+    QMdiSubWindow* window = list[static_cast<size_t>(slot)].window;
+    return window ? window : OpenSheetWindow(kind, slot);
 }
 
 bool frmDataSheetTree::findPlace(const std::function<bool(const Child&)>& match, Place& place) const
@@ -202,11 +198,6 @@ bool frmDataSheetTree::findPlace(const std::function<bool(const Child&)>& match,
 bool frmDataSheetTree::placeOf(const QTreeWidgetItem* node, Place& place) const
 {
     return node && findPlace([node](const Child& child) { return child.node == node; }, place);
-}
-
-bool frmDataSheetTree::placeOf(const QObject* window, Place& place) const
-{
-    return window && findPlace([window](const Child& child) { return child.window == window; }, place);
 }
 
 std::vector<frmDataSheetTree::Child>& frmDataSheetTree::childrenOf(SheetKind kind)

@@ -51,15 +51,12 @@ class frmDataSheetTree : public QWidget {
     bool CloseSheet();
 
     QTreeWidget* tree() const { return DataSheetTree; }
-    // The child window of a kind's slot, or null.
+    // The open child window of a kind's slot, or null (never opened, or closed).
     QMdiSubWindow* childWindow(SheetKind kind, int slot) const;
 
   Q_SIGNALS:
     // The main window's title, which shows the sheet's name.
     void mainTitleChanged(const QString& title);
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void askForStoredFile(SheetKind kind);
@@ -79,11 +76,11 @@ class frmDataSheetTree : public QWidget {
     void setMenuCaptions(int language);
     void showRoot();
     void removeChild(SheetKind kind, int slot);
+    void takeOpenWindows(SheetKind kind);
     void closeAllChildren();
     void ChangeFormName(QTreeWidgetItem* node);
     void sortIfFlagged();
     bool placeOf(const QTreeWidgetItem* node, Place& place) const;
-    bool placeOf(const QObject* window, Place& place) const;
     bool findPlace(const std::function<bool(const Child&)>& match, Place& place) const;
     std::vector<Child>& childrenOf(SheetKind kind);
     const std::vector<Child>& childrenOf(SheetKind kind) const;

@@ -51,6 +51,16 @@ QMdiSubWindow* CreateSheetWindow(QMdiArea* area, SheetKind kind, int slot, const
     return window;
 }
 
+QMdiSubWindow* OpenSheetWindow(SheetKind kind, int slot)
+{
+    switch (kind) {
+    case SheetKind::Wave: return frameOf(WaveWindowOf(slot));
+    case SheetKind::Measure: return frameOf(MeasureWindowOf(slot));
+    case SheetKind::Data: return frameOf(DataWindowOf(slot));
+    default: return nullptr;
+    }
+}
+
 void SetWindowTag(QMdiSubWindow* window, int slot)
 {
     if (!window || !window->widget()) return;

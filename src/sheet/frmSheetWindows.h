@@ -10,6 +10,8 @@ class QString;
 
 // Makes the kind's window for a slot, captioned with its name; null without an area.
 QMdiSubWindow* CreateSheetWindow(QMdiArea* area, SheetKind kind, int slot, const QString& name);
+// The kind's open window of a slot, however it was opened; null when there is none.
+QMdiSubWindow* OpenSheetWindow(SheetKind kind, int slot);
 void SetWindowTag(QMdiSubWindow* window, int slot);
 // The slot number in a window's tag; -1 when it has none.
 int WindowTag(const QMdiSubWindow* window);

@@ -3,43 +3,88 @@
 #include "acquire/waverecord.h"
 #include "analysis/datarecord.h"
 #include "analysis/measurerecord.h"
+#include "wave/fftsetting.h"
 
 #include <algorithm>
 
 namespace {
 
-template <typename T, size_t N> void shiftDown(std::array<T, N>& table, int slot)
+template <auto& Table> bool inTable(int slot)
 {
-    if (slot < 0 || static_cast<size_t>(slot) >= N) return;
-    std::move(table.begin() + slot + 1, table.end(), table.begin() + slot);
-    table.back() = T{};
+    return slot >= 0 && static_cast<size_t>(slot) < Table.size();
+}
+
+template <auto& Table> void clearSlot(int slot)
+{
+    using Record = typename std::remove_reference_t<decltype(Table)>::value_type;
+    if (inTable<Table>(slot)) Table[static_cast<size_t>(slot)] = Record{};
+}
+
+// The records after slot move down by one; the table's last element ends empty.
+template <auto& Table> void shiftDown(int slot)
+{
+    using Record = typename std::remove_reference_t<decltype(Table)>::value_type;
+    if (!inTable<Table>(slot)) return;
+    std::move(Table.begin() + slot + 1, Table.end(), Table.begin() + slot);
+    Table.back() = Record{};
+}
+
+void nameWave(int slot, const QString& name)
+{
+    if (inTable<WaveRecords>(slot)) WaveRecords[static_cast<size_t>(slot)].WaveTitle = name;
+}
+
+void nameMeasure(int slot, const QString& name)
+{
+    if (inTable<MeasureRecords>(slot)) MeasureRecords[static_cast<size_t>(slot)].Title = name;
+}
+
+// A wave window's slot is its record and the FFT dialog's placeholder beside it.
+void clearWave(int slot)
+{
+    clearSlot<WaveRecords>(slot);
+    clearSlot<FftPlaceholders>(slot);
+}
+
+void shiftWaves(int slot)
+{
+    shiftDown<WaveRecords>(slot);
+    shiftDown<FftPlaceholders>(slot);
+}
+
+struct SlotTable {
+    void (*clear)(int slot) = nullptr;
+    void (*shift)(int slot) = nullptr;
+    void (*name)(int slot, const QString& name) = nullptr;
+};
+
+// One row per kind, in SheetKind order; a kind without a table yet has an empty row.
+const std::array<SlotTable, SheetKindCount> slotTables{{
+    {clearSlot<MeasureRecords>, shiftDown<MeasureRecords>, nameMeasure}, // Measure
+    {clearSlot<DataRecords>, shiftDown<DataRecords>, nullptr},           // Data
+    {clearWave, shiftWaves, nameWave},                                   // Wave
+    {},                                                                  // Memory Wave
+    {},                                                                  // Record
+}};
+
+const SlotTable& tableOf(SheetKind kind)
+{
+    return slotTables[static_cast<size_t>(KindIndex(kind))];
 }
 
 } // namespace
 
-// The memory wave and record tables join these as their windows land.
 void ClearSlotRecord(SheetKind kind, int slot)
 {
-    switch (kind) {
-    case SheetKind::Measure: ClearMeasureSlot(slot); break;
-    case SheetKind::Data: ClearDataSlot(slot); break;
-    default: break;
-    }
+    if (tableOf(kind).clear) tableOf(kind).clear(slot);
 }
 
 void ShiftSlotRecords(SheetKind kind, int slot)
 {
-    switch (kind) {
-    case SheetKind::Wave: shiftDown(WaveRecords, slot); break;
-    case SheetKind::Data: shiftDown(DataRecords, slot); break;
-    case SheetKind::Measure: shiftDown(MeasureRecords, slot); break;
-    default: break;
-    }
+    if (tableOf(kind).shift) tableOf(kind).shift(slot);
 }
 
 void NameSlotRecord(SheetKind kind, int slot, const QString& name)
 {
-    if (kind == SheetKind::Wave && slot >= 0 && slot < WaveRecordCount) WaveRecords[slot].WaveTitle = name;
-    if (kind == SheetKind::Measure && slot >= 0 && slot < MeasureRecordCount)
-        MeasureRecords[size_t(slot)].Title = name;
+    if (tableOf(kind).name) tableOf(kind).name(slot, name);
 }

@@ -11,4 +11,5 @@ void ClearSlotRecord(SheetKind kind, int slot);
 // Moves the records behind slot down by one; the table's last element ends empty.
 void ShiftSlotRecords(SheetKind kind, int slot);
 // Gives the record the window's name where the record keeps one.
+// Each kind's tables are one row of the table behind these three.
 void NameSlotRecord(SheetKind kind, int slot, const QString& name);

@@ -35,8 +35,10 @@ enum class CaptionList : int {
     ValueWordsSecond,   // value words of the control tree, second list
     NodeNames,          // node names of the control tree
     ResourceDialog,     // DlgResource
+    WaveSetting,        // frmWaveSetting, the FFT dialog
+    About,              // frmAbout: the start of its title, its button
 };
-inline constexpr int CaptionListCount = static_cast<int>(CaptionList::ResourceDialog) + 1;
+inline constexpr int CaptionListCount = static_cast<int>(CaptionList::About) + 1;
 
 // Which of several meanings an English word has where Chinese tells them apart.
 enum class WordSense : unsigned char {

@@ -277,6 +277,18 @@ constexpr const char16_t* NodeNamesZh[] = {
 // DlgResource
 constexpr const char16_t* ResourceDialogEn[] = {u"Choose a resource", u"Resource ", u"OK", u"Cancel"};
 constexpr const char16_t* ResourceDialogZh[] = {u"选择设备资源", u"当前系统中的资源", u"确定", u"取消"};
+
+// frmWaveSetting: title, tab, the labels of the lists, the screen options, buttons
+constexpr const char16_t* WaveSettingEn[] = {
+    u"FFT", u"FFT", u"Target", u"Source", u"Window", u"Scale", u"Screen", u"Full", u"Split", u"OK", u"Cancel",
+};
+constexpr const char16_t* WaveSettingZh[] = {
+    u"FFT设置", u"FFT", u"目标窗口", u"信源", u"窗函数", u"刻度", u"屏幕", u"全屏", u"半屏", u"确定", u"取消",
+};
+
+// frmAbout: the title before the program's name, the button; the product texts stay as they are
+constexpr const char16_t* AboutEn[] = {u"About ", u"OK"};
+constexpr const char16_t* AboutZh[] = {u"关于 ", u"确定"};
 // clang-format on
 
 template <std::size_t N> QStringList toList(const char16_t* const (&texts)[N])
@@ -414,6 +426,8 @@ CaptionData MakeCaptionData(CaptionList which)
         return withPairs(lists(ValueWordsSecondEn, ValueWordsSecondZh), valueWordSecondPairs());
     case CaptionList::NodeNames: return withPairs(lists(NodeNamesEn, NodeNamesZh), nodeNamePairs());
     case CaptionList::ResourceDialog: return lists(ResourceDialogEn, ResourceDialogZh);
+    case CaptionList::WaveSetting: return lists(WaveSettingEn, WaveSettingZh);
+    case CaptionList::About: return lists(AboutEn, AboutZh);
     }
     return {};
 }

@@ -160,7 +160,7 @@ QString FormatMaskScaled(double value, int power, const QString& mask)
 QString GeneralFormat(double value)
 {
     if (!std::isfinite(value)) return QStringLiteral("0");
-    return QString::fromLatin1(DecimalText::of(value).roundedSignificant(15).plainText().c_str());
+    return QString::fromLatin1(DecimalText::of(value).plainText().c_str());
 }
 
 QString GeneralFormatSingle(float value)

@@ -24,12 +24,12 @@ QString FormatMaskSingle(float value, const QString& mask);
 // a unit change (seconds to milliseconds) never adds binary noise before rounding.
 QString FormatMaskScaled(double value, int power, const QString& mask);
 
-// The plain decimal text of a value, as numbers are written into commands: at
-// most 15 significant digits (the classic general format, which keeps
-// arithmetic noise such as 0.30000000000000004 out of commands), trailing zeros
-// dropped, never an exponent and never a locale's separator: 1e-08 is
-// "0.00000001", 2e20 is "200000000000000000000", -0.0 is "0". A value that is
-// no number gives "0", so a command never carries an unreadable argument.
+// The plain decimal text of a value, as numbers are written into commands: the
+// shortest digits that read back to the same double (so 1/3 keeps its sixteen
+// threes and 0.1 + 0.2 is "0.30000000000000004"), trailing zeros dropped, never
+// an exponent and never a locale's separator: 1e-08 is "0.00000001", 2e20 is
+// "200000000000000000000", -0.0 is "0". A value that is no number gives "0", so
+// a command never carries an unreadable argument.
 QString GeneralFormat(double value);
 // The same for a single-precision value, at most 7 significant digits.
 QString GeneralFormatSingle(float value);

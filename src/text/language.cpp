@@ -1,7 +1,8 @@
 #include "text/language.h"
 
-#include "text/messages.h"
 #include "platform/platform.h"
+#include "text/messages.h"
+#include "text/valuetext.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -39,4 +40,6 @@ void ResetLanguageState()
 {
     Language = LanguageEnglish;
     LoadMessages();
+    ValueValid = false;
+    SetLevelQuery(nullptr);
 }

@@ -1,17 +1,9 @@
 #include "wave/alternation.h"
 
+#include "link/linkcommands.h"
+#include "text/valuetext.h"
+
 #include <QStringList>
-#include <utility>
-
-namespace {
-
-InstrumentQuery& sourceQuery()
-{
-    static InstrumentQuery query = [](const QString&) { return QString(); };
-    return query;
-}
-
-} // namespace
 
 bool IsChannelPairOrdered(const QString& sourceText)
 {
@@ -21,15 +13,9 @@ bool IsChannelPairOrdered(const QString& sourceText)
     return ordered.contains(sourceText.toUpper());
 }
 
-InstrumentQuery SetAlternationSourceQuery(InstrumentQuery query)
-{
-    if (!query) query = [](const QString&) { return QString(); };
-    return std::exchange(sourceQuery(), std::move(query));
-}
-
 bool AskChannelPairOrdered()
 {
-    const QString reply = StripAtLineFeed(sourceQuery()(QStringLiteral(":TRIGGER:ALTERNATION:SOURCE?")));
+    const QString reply = StripAtLineFeed(AskCmd(QStringLiteral(":TRIGGER:ALTERNATION:SOURCE?")));
     return IsChannelPairOrdered(reply);
 }
 

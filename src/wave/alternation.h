@@ -4,7 +4,6 @@
 // the drawing has to ask the instrument.
 
 #include "acquire/waveparameter.h"
-#include "text/valuetext.h"
 #include "wave/displaytexts.h"
 
 #include <QString>
@@ -13,10 +12,8 @@
 // ("CH3CH4", "CHANNEL3CHANNEL4", "CHAN3CHAN4", "CH1CH2", "CHANNEL1CHANNEL2", "CHAN1CHAN2").
 bool IsChannelPairOrdered(const QString& sourceText);
 
-// Installs the seam that asks ":TRIGGER:ALTERNATION:SOURCE?" and returns the
-// previous one; the default answers nothing (a pair that is not ordered).
-InstrumentQuery SetAlternationSourceQuery(InstrumentQuery query);
-// Asks the source pair and tests it.
+// Asks the instrument ":TRIGGER:ALTERNATION:SOURCE?" and tests the reply. Without
+// a link the reply is empty: a pair that is not ordered.
 bool AskChannelPairOrdered();
 
 // Where a channel lies in alternate trigger: its half of the grid and its positions.

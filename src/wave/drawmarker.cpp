@@ -2,7 +2,7 @@
 // the edge when the zero row lies outside the picture, and the channel legend.
 #include "acquire/waverecord.h"
 #include "text/valuetext.h"
-#include "wave/alternation.h"
+#include "wave/displaytexts.h"
 #include "wave/wavedrawing.h"
 
 #include <array>
@@ -69,7 +69,7 @@ void DrawChannelMarker(const WaveCanvas& canvas, int channel, const QString& off
     if (scale == 0) return;
     const double y = 100 - (ParseVoltText(offsetText) / scale) * 25;
     const bool alt = IsAlternation(triggerMode);
-    const bool ordered = alt && AskChannelPairOrdered();
+    const bool ordered = alt && canvas.PairOrdered;
     const double div = SplitScreenOf(triggerMode, fftDisplayText, s8FFTScreen) ? 2 : 1;
     const MarkerRule rule = markerRule(channel, alt, ordered, div);
     const double z = canvas.Zoom;

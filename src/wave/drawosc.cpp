@@ -45,6 +45,22 @@ void drawTimeBase(const WaveCanvas& canvas, const WaveRecord& r)
         DrawTimeMarker(canvas, r.TimeScaleText, r.TimeOffsetText, r.ColorMode);
 }
 
+bool anyChannelShown(const WaveRecord& r)
+{
+    for (int channel = 1; channel <= 4; ++channel)
+        if (channelShown(r, channel)) return true;
+    return false;
+}
+
+// The one instrument access of a picture: in alternate trigger the source pair
+// decides where CH2 and CH3 go, for their markers and traces alike.
+WaveCanvas withSourcePair(const WaveCanvas& canvas, const WaveRecord& r)
+{
+    WaveCanvas asked = canvas;
+    if (IsAlternation(r.TriggerMode) && anyChannelShown(r)) asked.PairOrdered = AskChannelPairOrdered();
+    return asked;
+}
+
 } // namespace
 
 void DrawOSC(const WaveCanvas& canvas, const WaveRecord& record)
@@ -53,8 +69,9 @@ void DrawOSC(const WaveCanvas& canvas, const WaveRecord& record)
     if (record.YTMode || record.RollMode) {
         PeakFlags peaks;
         GetPeakStates(record.Parameter, peaks);
+        const WaveCanvas placed = withSourcePair(canvas, record);
         for (int channel = 1; channel <= 4; ++channel)
-            if (channelShown(record, channel)) drawChannel(canvas, record, channel, peaks[channel]);
+            if (channelShown(record, channel)) drawChannel(placed, record, channel, peaks[channel]);
         if (record.ShowMath && record.PrevShow[5]) drawMath(canvas, record);
         drawTimeBase(canvas, record);
     } else if (record.XYMode) {

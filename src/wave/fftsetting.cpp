@@ -1,7 +1,10 @@
 #include "wave/fftsetting.h"
 
 #include "acquire/waverecord.h"
+#include "document/sheetstate.h"
 #include "text/captions.h"
+
+#include <algorithm>
 
 #include <QRandomGenerator>
 
@@ -26,11 +29,22 @@ QStringList FftScaleNames(int language)
     return {Caption(CaptionList::MeasureNames, VrmsMeasure, language), QStringLiteral("dBVrms")};
 }
 
+namespace {
+
+// The wave records behind the open sheet's wave windows; a closed sheet's records
+// keep their titles but are no target.
+int openWaveRecords()
+{
+    return std::min(int(SheetSlotNames[size_t(KindIndex(SheetKind::Wave))].size()), WaveRecordCount);
+}
+
+} // namespace
+
 QStringList FftTargetTitles()
 {
     QStringList titles;
-    for (const WaveRecord& record : WaveRecords)
-        if (!record.WaveTitle.isEmpty()) titles.append(record.WaveTitle);
+    for (int slot = 0; slot < openWaveRecords(); ++slot)
+        titles.append(WaveRecords[size_t(slot)].WaveTitle);
     if (titles.isEmpty()) titles.append(NoTargetText);
     return titles;
 }
@@ -39,7 +53,7 @@ FftTarget ChooseFftTarget(const QString& title)
 {
     FftTarget target;
     if (title == NoTargetText || title.isEmpty()) return target;
-    for (int slot = 0; slot < WaveRecordCount; ++slot) {
+    for (int slot = 0; slot < openWaveRecords(); ++slot) {
         const WaveRecord& record = WaveRecords[slot];
         if (record.WaveTitle != title) continue;
         target.slot = slot;
@@ -49,7 +63,7 @@ FftTarget ChooseFftTarget(const QString& title)
         case 1: target.sources = QStringList{channel1}; break;
         case 2: target.sources = QStringList{channel2}; break;
         case 3: target.sources = QStringList{channel1, channel2}; break;
-        case 4: target.sourceEnabled = false; break;
+        case 4: target.disablesSource = true; break;
         default: break;
         }
         return target;

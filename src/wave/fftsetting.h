@@ -25,7 +25,7 @@ const QStringList& FftWindowNames();
 // The spectrum's scale names: the Vrms measure's name in the language, then "dBVrms".
 QStringList FftScaleNames(int language);
 
-// The titles of the wave records in use, in slot order; "None" when there is none.
+// The titles of the open sheet's wave records, in slot order; "None" when there is none.
 QStringList FftTargetTitles();
 
 struct FftTarget {
@@ -33,7 +33,8 @@ struct FftTarget {
     bool okEnabled = false;
     // Sources the record's last channel allows; empty: the list stays as it is.
     std::optional<QStringList> sources;
-    bool sourceEnabled = true;
+    // Last channel 4 disables the source list; any other target leaves it as it is.
+    bool disablesSource = false;
 };
 
 // The target a title names: "None" or a record without data can't be taken.

@@ -304,6 +304,7 @@ void frmWave::ChkCH_Click(int index)
     ChannelBox box{ChkCH[index]->isEnabled(), ChkCH[index]->isChecked()};
     ApplyChannelClick(record(), index, box, Connecting);
     ChkCH[index]->setChecked(box.checked);
+    Form_Resize();
 }
 
 void frmWave::closeEvent(QCloseEvent* event)
@@ -330,6 +331,7 @@ frmWave* CreateWaveWindow(QMdiArea* area, int slot)
     if (area) {
         QMdiSubWindow* child = area->addSubWindow(window);
         child->setObjectName(QStringLiteral("WaveChild"));
+        child->setAttribute(Qt::WA_DeleteOnClose);
         child->show();
     } else {
         window->setAttribute(Qt::WA_DeleteOnClose);

@@ -1,6 +1,7 @@
 #include "wave/frmWaveSetting.h"
 
 #include "acquire/waverecord.h"
+#include "text/captionwidgets.h"
 #include "text/language.h"
 #include "wave/fftsetting.h"
 #include "wave/frmWave.h"
@@ -32,10 +33,9 @@ frmWaveSetting::frmWaveSetting(QMdiArea* area, QWidget* parent)
 {
     setObjectName(QStringLiteral("frmWaveSetting"));
     setModal(true);
-    setWindowTitle(QStringLiteral("FFT"));
-    TabWave->addTab(buildPage(), QStringLiteral("FFT"));
-    cmdOK = named(new QPushButton(QStringLiteral("OK"), this), "cmdOK");
-    cmdCancel = named(new QPushButton(QStringLiteral("Cancel"), this), "cmdCancel");
+    TabWave->addTab(named(buildPage(), "picFFTPage"), QString());
+    cmdOK = named(new QPushButton(this), "cmdOK");
+    cmdCancel = named(new QPushButton(this), "cmdCancel");
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(cmdOK);
@@ -45,6 +45,7 @@ frmWaveSetting::frmWaveSetting(QMdiArea* area, QWidget* parent)
     layout->addLayout(buttons);
     connect(cmdOK, &QPushButton::clicked, this, &frmWaveSetting::cmdOK_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &frmWaveSetting::cmdCancel_Click);
+    SetCaptions(Language);
     Form_Load();
     connect(TargetCombo, &QComboBox::activated, this, &frmWaveSetting::TargetCombo_Click);
 }
@@ -59,8 +60,8 @@ QWidget* frmWaveSetting::buildPage()
     SourceCombo = named(new QComboBox(page), "SourceCombo");
     WindowCombo = named(new QComboBox(page), "WindowCombo");
     ScaleCombo = named(new QComboBox(page), "ScaleCombo");
-    OptScreen[0] = named(new QRadioButton(QStringLiteral("Full"), page), "OptScreen_0");
-    OptScreen[1] = named(new QRadioButton(QStringLiteral("Split"), page), "OptScreen_1");
+    OptScreen[0] = named(new QRadioButton(page), "OptScreen_0");
+    OptScreen[1] = named(new QRadioButton(page), "OptScreen_1");
     picFFT = named(new QLabel(page), "picFFT");
     picFFT->setMinimumSize(120, 60);
     picFFT->setStyleSheet(QStringLiteral("background: black"));
@@ -68,16 +69,33 @@ QWidget* frmWaveSetting::buildPage()
     screen->addWidget(OptScreen[0]);
     screen->addWidget(OptScreen[1]);
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Target"), TargetCombo);
-    form->addRow(QStringLiteral("Source"), SourceCombo);
-    form->addRow(QStringLiteral("Window"), WindowCombo);
-    form->addRow(QStringLiteral("Scale"), ScaleCombo);
-    form->addRow(QStringLiteral("Screen"), screen);
+    form->addRow(named(new QLabel(page), "LblTarget"), TargetCombo);
+    form->addRow(named(new QLabel(page), "LblSource"), SourceCombo);
+    form->addRow(named(new QLabel(page), "LblWindow"), WindowCombo);
+    form->addRow(named(new QLabel(page), "LblScale"), ScaleCombo);
+    form->addRow(named(new QLabel(page), "LblScreen"), screen);
     form->addRow(picFFT);
     auto* layout = new QHBoxLayout(page);
     layout->addWidget(TreeView);
     layout->addLayout(form, 1);
     return page;
+}
+
+void frmWaveSetting::SetCaptions(int language)
+{
+    ApplyCaptions(this, CaptionList::WaveSetting,
+                  {{"", 0, CaptionRole::WindowTitle},
+                   {"picFFTPage", 1, CaptionRole::TabText},
+                   {"LblTarget", 2},
+                   {"LblSource", 3},
+                   {"LblWindow", 4},
+                   {"LblScale", 5},
+                   {"LblScreen", 6},
+                   {"OptScreen_0", 7},
+                   {"OptScreen_1", 8},
+                   {"cmdOK", 9},
+                   {"cmdCancel", 10}},
+                  language);
 }
 
 void frmWaveSetting::Form_Load()
@@ -103,7 +121,7 @@ void frmWaveSetting::TargetCombo_Click()
         SourceCombo->addItems(*chosen.sources);
         SourceCombo->setCurrentIndex(0);
     }
-    SourceCombo->setEnabled(chosen.sourceEnabled);
+    if (chosen.disablesSource) SourceCombo->setEnabled(false);
     target_ = chosen.slot;
 }
 

@@ -19,6 +19,8 @@ class frmWaveSetting : public QDialog {
     // area: where the target window opens when it isn't open yet.
     explicit frmWaveSetting(QMdiArea* area, QWidget* parent = nullptr);
 
+    // Sets every caption for the language.
+    void SetCaptions(int language);
     void TargetCombo_Click();
     void cmdOK_Click();
     void cmdCancel_Click();

@@ -17,7 +17,7 @@ std::optional<TraceRun> ChannelTraceRun(const WaveCanvas& canvas, int channel, i
     int end = parameter.s16ScrEndPos;
     bool half = false, lower = false;
     if (IsAlternation(triggerMode)) {
-        const AltPlacement place = AltPlacementOf(channel, AskChannelPairOrdered(), parameter);
+        const AltPlacement place = AltPlacementOf(channel, canvas.PairOrdered, parameter);
         start = place.start;
         end = place.end;
         half = true;

@@ -24,7 +24,7 @@ inline bool InsideArray(const WaveArray& wave, long long index)
 std::optional<double> TraceX0(double start, double zoom);
 
 // Where a channel's trace lies, for the first sample index origin + 2 start: in
-// alternate trigger by the source pair (asked here), otherwise on the full screen,
+// alternate trigger by the canvas's source pair, otherwise on the full screen,
 // or the upper half when the spectrum shares the screen.
 std::optional<TraceRun> ChannelTraceRun(const WaveCanvas& canvas, int channel, int origin,
                                         const WaveParameter& parameter, const QString& triggerMode,

@@ -28,6 +28,9 @@ struct WaveCanvas {
     // The instrument is of the family with the B flag (ModelIsSupported): its
     // spectrum needs no lift on a split screen.
     bool modelHasBFlag;
+    // In alternate trigger: the instrument's source pair is in order (CH1CH2 or
+    // CH3CH4). DrawOSC asks it once per picture; markers and traces read it here.
+    bool PairOrdered = false;
 };
 
 // The classic conversion of a value to a whole number: to nearest, ties to even.

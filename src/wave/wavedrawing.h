@@ -3,7 +3,8 @@
 // the channel and trigger markers, the traces in every mode and the legends
 // under the grid. Everything draws from a WaveRecord and needs no window, so the
 // wave view, the memory view and the print image share it. Only the alternate
-// trigger's source pair is asked of the instrument (see alternation.h).
+// trigger's source pair is asked of the instrument, once per DrawOSC (see
+// alternation.h).
 
 #include "acquire/waverecord.h"
 #include "wave/wavecanvas.h"

@@ -1,6 +1,7 @@
 #include "wave/waverefresh.h"
 
 #include "text/language.h"
+#include "wave/wavechannels.h"
 
 #include <QString>
 
@@ -25,4 +26,6 @@ void ResetWaveRefreshState()
     RefreshTick = 0;
     AutoRefreshRunning = false;
     RefreshingWaveSlot = -1;
+    RefreshHeldOff = nullptr;
+    InstrumentDisplaySwitches = nullptr;
 }

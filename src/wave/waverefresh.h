@@ -17,4 +17,5 @@ bool RefreshIsHeldOff();
 // The caption of the reading frame during a wave window's read.
 QString WaveLoadingCaption(int language);
 
+// Also forgets the listeners the refresh consults (hold-off, the instrument's display switches).
 void ResetWaveRefreshState();

@@ -8,27 +8,14 @@
 #include "link/usbtransport.h"
 #include "state/programstate.h"
 #include "visa/visaconfig.h"
-#include "wave/fftsetting.h"
-#include "wave/waverefresh.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QThread>
 
-namespace {
-
-void resetAll()
-{
-    ResetProgramState();
-    ResetWaveRefreshState();
-    ResetFftPlaceholders();
-}
-
-} // namespace
-
 WaveWindowTest::WaveWindowTest()
 {
-    resetAll();
+    ResetProgramState();
     area.resize(900, 700);
     area.show();
 }
@@ -37,7 +24,7 @@ WaveWindowTest::~WaveWindowTest()
 {
     area.closeAllSubWindows();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    resetAll();
+    ResetProgramState();
 }
 
 frmWave& WaveWindowTest::open(int slot, const QString& title)

@@ -6,6 +6,7 @@
 #include "acquire/readwavewindow.h"
 #include "acquire/waverecord.h"
 #include "settings/softwaresettings.h"
+#include "link/linkcommands.h"
 #include "link/linkstate.h"
 #include "document/sheetstate.h"
 #include "wave/waverefresh.h"
@@ -13,7 +14,9 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QProcess>
 #include <QPushButton>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -158,4 +161,50 @@ TEST_F(WaveWindowTest, HeldOffRefreshDoesNothing)
     RefreshHeldOff = nullptr;
     EXPECT_TRUE(platform->boxes.isEmpty());
     EXPECT_EQ(RefreshingWaveSlot, -1);
+}
+
+namespace {
+
+// Its own simulator: the trigger mode set here stays out of the other tests.
+class AltTriggerWindowTest : public SimWaveWindowTest {
+  protected:
+    // Writes the command line's picture of the same reading; empty on failure.
+    QImage commandLinePicture(const QStringList& arguments)
+    {
+        const QString out = dir.filePath(QStringLiteral("wave.png"));
+        QStringList all = arguments;
+        // The socket is opened; the HiSLIP instrument is what the find lists.
+        all << "--out" << out << "--resource" << ResourceName << "--resource"
+            << QStringLiteral("TCPIP0::127.0.0.1::hislip0,%1::INSTR").arg(sim->port("hislip"));
+        QProcess cli;
+        cli.start(QStringLiteral(SELVANE_CLI_PATH), QStringList{"wave"} + all);
+        if (!cli.waitForFinished(20000) || cli.exitCode() != 0) {
+            ADD_FAILURE() << cli.readAllStandardError().toStdString();
+            return {};
+        }
+        return QImage(out).convertToFormat(QImage::Format_RGB32);
+    }
+    QTemporaryDir dir;
+};
+
+} // namespace
+
+// The pair CH1CH2 is in order: CH2 follows source B in the lower half, CH3
+// source A in the upper. The window and selvane-cli ask alike and draw alike.
+TEST_F(AltTriggerWindowTest, ThePictureIsTheCommandLines)
+{
+    for (const char* command : {":CHANNEL2:DISPLAY ON", ":CHANNEL3:DISPLAY ON", ":TRIGGER:MODE ALTERNATION",
+                                ":TRIGGER:ALTERNATION:SOURCE CH1CH2", ":STOP"})
+        WriteCmd(QString::fromLatin1(command));
+    frmWave& wave = open();
+    WaveRecords[0].ColorMode = true;
+    WaveRecords[0].ShowCH2 = WaveRecords[0].ShowCH3 = true;
+    control<QPushButton>("cmdRefresh")->click();
+    ASSERT_TRUE(WaveRecords[0].SplitScreen);
+
+    const QImage shown = wave.picture().convertToFormat(QImage::Format_RGB32);
+    const QImage written = commandLinePicture({"--channels", "2,3", "--zoom", "1"});
+    ASSERT_EQ(written.size(), shown.size());
+    EXPECT_TRUE(written == shown);
+    EXPECT_GT(countColor(shown, qRgb(0, 255, 255)), 100) << "CH2 is drawn";
 }

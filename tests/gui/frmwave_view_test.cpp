@@ -152,10 +152,26 @@ TEST_F(WaveWindowTest, TheFirstRunRestoresTheRecordWithoutDirtyingTheSheet)
     EXPECT_EQ(wave.windowTitle(), "Wave2");
 }
 
-TEST_F(WaveWindowTest, AChannelClickIsRefusedWhileConnecting)
+bool showsColor(const QImage& image, QRgb color)
 {
-    WaveRecords[0].ShowCH2 = true;
-    open();
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) == color) return true;
+    return false;
+}
+
+// A channel box redraws at once: unticking takes the trace off the picture.
+TEST_F(WaveWindowTest, AChannelClickRedrawsAndIsRefusedWhileConnecting)
+{
+    WaveRecord& r = WaveRecords[0];
+    r.ShowCH2 = r.HasData = r.YTMode = r.ColorMode = true;
+    r.PrevShow[2] = true;
+    r.Points = 600;
+    r.Parameter.s16ScrEndPos = 299;
+    r.WaveCH2 = WaveArray(1025, 100);
+    frmWave& wave = open();
+    const QRgb ch2 = qRgb(0, 255, 255);
+    ASSERT_TRUE(showsColor(wave.picture(), ch2));
     auto* box = control<QCheckBox>("ChkCH_1");
     Connecting = true;
     box->click();
@@ -165,6 +181,7 @@ TEST_F(WaveWindowTest, AChannelClickIsRefusedWhileConnecting)
     box->click();
     EXPECT_FALSE(box->isChecked());
     EXPECT_FALSE(WaveRecords[0].ShowCH2);
+    EXPECT_FALSE(showsColor(wave.picture(), ch2));
 }
 
 TEST_F(WaveWindowTest, TheBoxesFollowTheInstrumentsDisplays)

@@ -3,6 +3,7 @@
 #include "frmwave_fixture.h"
 
 #include "acquire/waverecord.h"
+#include "sheet/sheetslots.h"
 #include "wave/fftsetting.h"
 #include "wave/frmWaveSetting.h"
 
@@ -23,6 +24,13 @@ QStringList entries(const QComboBox* combo)
 
 class WaveSettingTest : public WaveWindowTest {
   protected:
+    // A new sheet with wave windows Wave0 ... of these records.
+    static void sheetWithWaves(int count)
+    {
+        OpenNewSheet();
+        for (int i = 0; i < count; ++i)
+            ClaimSlot(SheetKind::Wave);
+    }
     frmWaveSetting& dialog()
     {
         setting = std::make_unique<frmWaveSetting>(&area);
@@ -39,6 +47,8 @@ class WaveSettingTest : public WaveWindowTest {
 
 TEST_F(WaveSettingTest, WithNoWaveWindowTheTargetIsNoneAndOkCantBePressed)
 {
+    WaveRecords[2].WaveTitle = "Wave2"; // of a sheet closed before: records keep their titles
+    WaveRecords[2].HasData = true;
     dialog();
     EXPECT_EQ(entries(part<QComboBox>("TargetCombo")), QStringList{"None"});
     EXPECT_FALSE(part<QPushButton>("cmdOK")->isEnabled());
@@ -61,14 +71,14 @@ class TargetChoice : public WaveSettingTest, public ::testing::WithParamInterfac
 
 TEST_P(TargetChoice, TheRecordDecidesOkAndTheSources)
 {
-    WaveRecords[3].WaveTitle = "Wave3";
-    WaveRecords[3].HasData = GetParam().hasData;
-    WaveRecords[3].LastChannel = GetParam().lastChannel;
+    sheetWithWaves(1);
+    WaveRecords[0].HasData = GetParam().hasData;
+    WaveRecords[0].LastChannel = GetParam().lastChannel;
     dialog();
     EXPECT_EQ(part<QPushButton>("cmdOK")->isEnabled(), GetParam().ok);
     EXPECT_EQ(entries(part<QComboBox>("SourceCombo")), GetParam().sources);
     EXPECT_EQ(part<QComboBox>("SourceCombo")->isEnabled(), GetParam().sourceEnabled);
-    EXPECT_EQ(setting->target(), GetParam().ok ? 3 : -1);
+    EXPECT_EQ(setting->target(), GetParam().ok ? 0 : -1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Records, TargetChoice,
@@ -80,25 +90,43 @@ INSTANTIATE_TEST_SUITE_P(Records, TargetChoice,
                                            TargetCase{"NoChannel", true, 0, true, {"CH1", "CH2"}, true}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(WaveSettingTest, TheTargetListHoldsTheTitlesInSlotOrder)
+TEST_F(WaveSettingTest, TheTargetListHoldsTheOpenSheetsWavesInSlotOrder)
 {
-    WaveRecords[5].WaveTitle = "Wave5";
-    WaveRecords[1].WaveTitle = "Wave1";
-    WaveRecords[1].HasData = true;
+    sheetWithWaves(2);
+    WaveRecords[0].HasData = true;
+    WaveRecords[5].WaveTitle = "Wave5"; // no window of the open sheet
     dialog();
     auto* target = part<QComboBox>("TargetCombo");
-    EXPECT_EQ(entries(target), (QStringList{"Wave1", "Wave5"}));
+    EXPECT_EQ(entries(target), (QStringList{"Wave0", "Wave1"}));
     target->setCurrentIndex(1);
     setting->TargetCombo_Click();
-    EXPECT_FALSE(part<QPushButton>("cmdOK")->isEnabled()) << "Wave5 has no data";
+    EXPECT_FALSE(part<QPushButton>("cmdOK")->isEnabled()) << "Wave1 has no data";
+}
+
+// Only a last channel of 4 touches the source list's state; other values leave it.
+TEST_F(WaveSettingTest, AnotherTargetLeavesADisabledSourceList)
+{
+    sheetWithWaves(2);
+    WaveRecords[0].HasData = WaveRecords[1].HasData = true;
+    WaveRecords[0].LastChannel = 4;
+    WaveRecords[1].LastChannel = 0;
+    dialog();
+    auto* source = part<QComboBox>("SourceCombo");
+    ASSERT_FALSE(source->isEnabled());
+    part<QComboBox>("TargetCombo")->setCurrentIndex(1);
+    setting->TargetCombo_Click();
+    EXPECT_FALSE(source->isEnabled());
+    EXPECT_EQ(setting->target(), 1);
 }
 
 TEST_F(WaveSettingTest, OkMarksTheTargetAndOpensItsWindow)
 {
-    WaveRecords[6].WaveTitle = "Wave6";
+    sheetWithWaves(7);
     WaveRecords[6].HasData = true;
     WaveRecords[6].LastChannel = 1;
     dialog();
+    part<QComboBox>("TargetCombo")->setCurrentIndex(6);
+    setting->TargetCombo_Click();
     part<QComboBox>("WindowCombo")->setCurrentIndex(2);
     part<QPushButton>("cmdOK")->click();
 
@@ -117,6 +145,8 @@ TEST_F(WaveSettingTest, OkMarksTheTargetAndOpensItsWindow)
     EXPECT_EQ(area.subWindowList().size(), 1);
 
     dialog();
+    part<QComboBox>("TargetCombo")->setCurrentIndex(6);
+    setting->TargetCombo_Click();
     part<QPushButton>("cmdOK")->click();
     EXPECT_EQ(area.subWindowList().size(), 1) << "an open window is reused";
 }

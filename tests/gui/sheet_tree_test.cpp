@@ -5,6 +5,7 @@
 #include "sheet/frmDataSheetTree.h"
 #include "sheet/frmSheetWindows.h"
 #include "document/sheetstate.h"
+#include "wave/waverefresh.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -146,18 +147,33 @@ TEST_F(SheetTreeTest, RemovingTheRootClosesTheSheetUnlessCancelled)
     EXPECT_EQ(window->windowTitle(), "Selvane");
 }
 
-TEST_F(SheetTreeTest, AClosedChildIsHiddenAndComesBackWhenItsNodeIsSelected)
+// The close box runs the wave window's unload: refused during a transfer,
+// otherwise interval refresh stops and the window goes; its node opens it anew.
+TEST_F(SheetTreeTest, TheCloseBoxUnloadsTheWindowAndItsNodeOpensItAnew)
 {
     find("mnuNewDataSheet")->trigger();
     addWaves(2);
     QMdiSubWindow* first = sheet->childWindow(SheetKind::Wave, 0);
-    first->close();
     QCoreApplication::processEvents();
-    ASSERT_EQ(sheet->childWindow(SheetKind::Wave, 0), first);
-    EXPECT_FALSE(first->isVisible());
+    ASSERT_TRUE(WaveRecords[0].WindowOpen);
+    Connecting = true;
+    EXPECT_FALSE(first->close());
+    Connecting = false;
+    AutoRefreshRunning = WaveRecords[0].AutoRefreshing = true;
+    RefreshingWaveSlot = 0;
+    EXPECT_TRUE(first->close());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(sheet->childWindow(SheetKind::Wave, 0), nullptr);
+    EXPECT_FALSE(WaveRecords[0].WindowOpen);
+    EXPECT_FALSE(AutoRefreshRunning || WaveRecords[0].AutoRefreshing);
+    EXPECT_EQ(nodeTexts(), QStringList({"Wave0", "Wave1"}));
+
     tree->setCurrentItem(root()->child(0));
-    EXPECT_TRUE(first->isVisible());
-    EXPECT_EQ(window->mdiArea()->activeSubWindow(), first);
+    QMdiSubWindow* again = sheet->childWindow(SheetKind::Wave, 0);
+    ASSERT_NE(again, nullptr);
+    EXPECT_TRUE(again->isVisible());
+    EXPECT_EQ(window->mdiArea()->activeSubWindow(), again);
+    EXPECT_EQ(windowTags(), QStringList({"Wave1=1", "Wave0=0"}));
 }
 
 TEST_F(SheetTreeTest, SortedOrdersTheNodesByName)

@@ -8,6 +8,8 @@
 #include "acquire/waverecord.h"
 #include "link/linkcommands.h"
 #include "link/linkstate.h"
+#include "wave/recordingsurface.h"
+#include "wave/wavedrawing.h"
 
 #include <algorithm>
 
@@ -131,6 +133,20 @@ TEST_F(WaveReading, AlternateTriggerAsksBothTimeBasesInOrder)
                      ":TRIGGER:ALTERNATION:TIMESCALE? SOURCEB", ":TRIGGER:ALTERNATION:TIMEOFFSET? SOURCEB"}));
     EXPECT_FALSE(r.TimeScaleAText.isEmpty());
     EXPECT_FALSE(r.TimeScaleBText.isEmpty());
+}
+
+// Markers and traces of four channels share one answer about the source pair.
+TEST_F(WaveReading, AnAlternateTriggerPictureAsksTheSourcePairOnce)
+{
+    WriteCmd(":TRIGGER:MODE ALTERNATION");
+    WaveRecord& r = readWindow({1, 2, 3, 4});
+    r.HasData = true;
+    const QString query = QStringLiteral(":TRIGGER:ALTERNATION:SOURCE?");
+    const qsizetype before = link->loggedCommands().count(query);
+    RecordingSurface s;
+    DrawOSC(WaveCanvas(s, 1), r);
+    ASSERT_TRUE(link->waitForLogged(query, int(before) + 1));
+    EXPECT_EQ(link->loggedCommands().count(query), before + 1);
 }
 
 class WaveReadingSerial : public SimReadingTest {};

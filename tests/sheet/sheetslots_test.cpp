@@ -6,6 +6,9 @@
 #include "support/freshstate.h"
 #include "text/language.h"
 #include "text/messages.h"
+#include "analysis/measurerecord.h"
+#include "state/programstate.h"
+#include "wave/fftsetting.h"
 
 #include <gtest/gtest.h>
 
@@ -88,12 +91,13 @@ TEST_F(SheetSlotsTest, RemovingTheSecondOfThreeWavesKeepsNamesAndMovesRecordsDow
     OpenNewSheet();
     fill(SheetKind::Wave, 3);
     for (int slot = 0; slot < 3; ++slot)
-        WaveRecords[slot].DateText = QString::number(slot);
+        WaveRecords[slot].DateText = FftPlaceholders[slot].WindowText = QString::number(slot);
     DataSheetDirty = false;
     ReleaseSlot(SheetKind::Wave, 1);
     EXPECT_EQ(SheetSlotNames[KindIndex(SheetKind::Wave)], QStringList({"Wave0", "Wave2"}));
     EXPECT_EQ(WaveRecords[0].DateText, "0");
     EXPECT_EQ(WaveRecords[1].DateText, "2");
+    EXPECT_EQ(FftPlaceholders[1].WindowText, "2") << "the placeholder moves with its record";
     EXPECT_EQ(WaveRecords[1].WaveTitle, "Wave2");
     EXPECT_TRUE(WaveRecords[2].DateText.isEmpty());
     EXPECT_TRUE(WaveRecords[2].WaveTitle.isEmpty());
@@ -101,6 +105,28 @@ TEST_F(SheetSlotsTest, RemovingTheSecondOfThreeWavesKeepsNamesAndMovesRecordsDow
     // The next name comes from the count, as the sheet has always made them.
     ClaimSlot(SheetKind::Wave);
     EXPECT_EQ(SlotName(SheetKind::Wave, 2), "Wave2");
+}
+
+// A new sheet's first windows show nothing of the windows the last sheet had
+// in those slots: no traces, options, spectrum placeholder, values or tables.
+TEST_F(SheetSlotsTest, ANewWindowsSlotStartsEmptyForEveryKind)
+{
+    OpenNewSheet();
+    ClaimSlot(SheetKind::Wave);
+    WaveRecords[0].HasData = WaveRecords[0].BestFit = WaveRecords[0].GridOn = true;
+    WaveRecords[0].WaveCH1 = WaveArray(1025, 7);
+    FftPlaceholders[0].Placeholder = true;
+    MeasureRecords[0].Legend = DataRecords[0].Legend = "old";
+    ClearSheet();
+    OpenNewSheet();
+    for (SheetKind kind : {SheetKind::Wave, SheetKind::Measure, SheetKind::Data})
+        EXPECT_EQ(ClaimSlot(kind), 0);
+    EXPECT_FALSE(WaveRecords[0].HasData || WaveRecords[0].BestFit || WaveRecords[0].GridOn);
+    EXPECT_TRUE(WaveRecords[0].WaveCH1.empty());
+    EXPECT_EQ(WaveRecords[0].WaveTitle, "Wave0");
+    EXPECT_FALSE(FftPlaceholders[0].Placeholder);
+    EXPECT_TRUE(MeasureRecords[0].Legend.isEmpty());
+    EXPECT_TRUE(DataRecords[0].Legend.isEmpty());
 }
 
 TEST_F(SheetSlotsTest, RemovingTheFirstDataWindowMovesItsTableUpToTheLastElement)

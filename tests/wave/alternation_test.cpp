@@ -22,13 +22,6 @@ INSTANTIATE_TEST_SUITE_P(Texts, IsChannelPairOrderedTest,
                                            PairCase{"CH2CH1", false}, PairCase{" CH1CH2", false},
                                            PairCase{"", false}));
 
-TEST(AskChannelPairOrdered, AsksOnceAndStripsTheLineEnd)
-{
-    ScriptedSourcePair pair(QStringLiteral("CH3CH4\n"));
-    EXPECT_TRUE(AskChannelPairOrdered());
-    EXPECT_EQ(pair.asked, QStringList{QStringLiteral(":TRIGGER:ALTERNATION:SOURCE?")});
-}
-
 TEST(AskChannelPairOrdered, WithoutAnInstrumentThePairIsNotOrdered)
 {
     EXPECT_FALSE(AskChannelPairOrdered());

@@ -1,10 +1,11 @@
 #pragma once
 // Shared pieces of the drawing tests: printing of recorded calls, the path of an
-// outline, a scripted answer to the alternate-trigger source query, and records.
+// outline, a canvas with an alternate-trigger source pair, and records.
 
 #include "acquire/waverecord.h"
 #include "wave/alternation.h"
 #include "wave/recordingsurface.h"
+#include "wave/wavecanvas.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -47,23 +48,13 @@ inline std::vector<SurfaceCall> TextsOf(const RecordingSurface& s)
     return s.callsOf(SurfaceCall::Text);
 }
 
-// Answers ":TRIGGER:ALTERNATION:SOURCE?" with a fixed text and records every query.
-class ScriptedSourcePair {
-  public:
-    explicit ScriptedSourcePair(QString reply)
-    {
-        previous_ = SetAlternationSourceQuery([this, reply](const QString& query) {
-            asked << query;
-            return reply;
-        });
-    }
-    ~ScriptedSourcePair() { SetAlternationSourceQuery(previous_); }
-
-    QStringList asked;
-
-  private:
-    InstrumentQuery previous_;
-};
+// A canvas whose alternate-trigger source pair is the one the text names.
+inline WaveCanvas PairCanvas(Surface& surface, double zoom, const char* sourcePair)
+{
+    WaveCanvas canvas(surface, zoom);
+    canvas.PairOrdered = IsChannelPairOrdered(QString::fromLatin1(sourcePair));
+    return canvas;
+}
 
 // A finished Y-T reading of a full screen (positions 0 to 299) with no channel shown.
 inline WaveRecord YtRecord()

@@ -13,10 +13,10 @@ WaveParameter positions(int start, int end)
 
 std::vector<SurfaceCall> drawChannel(const WaveArray& wave, double zoom, const WaveParameter& p,
                                      int points = 600, const char* fft = "OFF", const char* mode = "EDGE",
-                                     int channel = 1)
+                                     int channel = 1, const char* pair = "")
 {
     RecordingSurface s;
-    DrawChannelTrace(WaveCanvas(s, zoom), wave, points, channel, p, QString::fromLatin1(mode),
+    DrawChannelTrace(PairCanvas(s, zoom, pair), wave, points, channel, p, QString::fromLatin1(mode),
                      QString::fromLatin1(fft));
     return s.calls();
 }
@@ -86,7 +86,6 @@ class TracePlacementTest : public ::testing::TestWithParam<HalfCase> {};
 TEST_P(TracePlacementTest, HalfAndPositions)
 {
     const HalfCase& c = GetParam();
-    ScriptedSourcePair pair(QString::fromLatin1(c.pair));
     WaveParameter p = positions(0, 299);
     p.s8FFTScreen = c.fftScreen;
     p.s16ScrStartPosA = 4;
@@ -94,7 +93,7 @@ TEST_P(TracePlacementTest, HalfAndPositions)
     p.s16ScrStartPosB = 8;
     p.s16ScrEndPosB = 299;
     const WaveArray wave = Ramp(2049);
-    const std::vector<SurfaceCall> calls = drawChannel(wave, 1, p, 600, c.fft, c.mode, c.channel);
+    const std::vector<SurfaceCall> calls = drawChannel(wave, 1, p, 600, c.fft, c.mode, c.channel, c.pair);
     ASSERT_FALSE(calls.empty());
     const int start = (c.startIndex - 214) / 2;
     EXPECT_EQ(PathOf({calls[0]}), (Path{{25.0 + start, c.y0 + (c.startIndex - 1) % 200 / 2.0},
