@@ -20,6 +20,8 @@ constexpr Subcommand subcommands[] = {
     {"download", "Read every setting of the instrument and write a control file.", RunDownloadCommand},
     {"measure", "Read one channel's measurements, judge them against limits and write the export.",
      RunMeasureCommand},
+    {"wfm", "Load waveform files as the memory wave window does; JSON, CSV, picture or a CSV batch.",
+     RunWfmCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)

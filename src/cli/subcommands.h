@@ -17,3 +17,6 @@ int RunDownloadCommand(const QStringList& arguments);
 // the export (--out FILE.txt). 0 when every limited item passes, 1 when one
 // fails, 2 on a usage, link or file error.
 int RunMeasureCommand(const QStringList& arguments);
+// Loads a waveform file as the memory wave window does and writes it as JSON,
+// CSV or a picture; with --csv-dir converts many. 0 loaded, 3 refused, 2 usage.
+int RunWfmCommand(const QStringList& arguments);

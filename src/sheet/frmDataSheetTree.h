@@ -62,7 +62,7 @@ class frmDataSheetTree : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void askForStoredFile(SheetKind kind);
+    void askForStoredFile(SheetKind kind, int slot);
 
     struct Child {
         QTreeWidgetItem* node = nullptr;

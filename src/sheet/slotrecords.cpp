@@ -3,6 +3,7 @@
 #include "acquire/waverecord.h"
 #include "analysis/datarecord.h"
 #include "analysis/measurerecord.h"
+#include "stored/memorywaveslot.h"
 
 #include <algorithm>
 
@@ -23,6 +24,7 @@ void ClearSlotRecord(SheetKind kind, int slot)
     switch (kind) {
     case SheetKind::Measure: ClearMeasureSlot(slot); break;
     case SheetKind::Data: ClearDataSlot(slot); break;
+    case SheetKind::MemoryWave: ClearMemoryWaveSlot(slot); break;
     default: break;
     }
 }
@@ -33,6 +35,7 @@ void ShiftSlotRecords(SheetKind kind, int slot)
     case SheetKind::Wave: shiftDown(WaveRecords, slot); break;
     case SheetKind::Data: shiftDown(DataRecords, slot); break;
     case SheetKind::Measure: shiftDown(MeasureRecords, slot); break;
+    case SheetKind::MemoryWave: shiftDown(MemoryWaveSlots, slot); break;
     default: break;
     }
 }
@@ -42,4 +45,6 @@ void NameSlotRecord(SheetKind kind, int slot, const QString& name)
     if (kind == SheetKind::Wave && slot >= 0 && slot < WaveRecordCount) WaveRecords[slot].WaveTitle = name;
     if (kind == SheetKind::Measure && slot >= 0 && slot < MeasureRecordCount)
         MeasureRecords[size_t(slot)].Title = name;
+    if (kind == SheetKind::MemoryWave && slot >= 0 && slot < MemoryWaveSlotCount)
+        MemoryWaveSlots[size_t(slot)].Name = name;
 }
