@@ -3,8 +3,8 @@
 #include "cli/clilanguage.h"
 #include "cli/subcommands.h"
 
-#include "stored/memorywavecsv.h"
 #include "stored/memoryviewdraw.h"
+#include "stored/memorywavecsv.h"
 #include "stored/wfmfile.h"
 #include "text/language.h"
 #include "text/messages.h"
@@ -90,7 +90,8 @@ struct JsonObject {
     void flag(const char* name, bool value) { key(name) += value ? "true" : "false"; }
     void text(const char* name, const QString& value)
     {
-        const QByteArray quoted = QByteArray(QString(value).replace('\\', "\\\\").replace('"', "\\\"").toUtf8());
+        const QByteArray quoted =
+            QByteArray(QString(value).replace('\\', "\\\\").replace('"', "\\\"").toUtf8());
         key(name) += "\"" + quoted + "\"";
     }
 };
@@ -180,7 +181,8 @@ int runSingle(const WfmOptions& options)
     ModelBandwidthCode = 0;
     const WfmLoadResult result = loadFile(options.files.first(), slot, ModelBandwidthCode);
     bool written = true;
-    if (!options.json.isEmpty()) written = saveBytes(options.json, slotJson(slot, result, ModelBandwidthCode));
+    if (!options.json.isEmpty())
+        written = saveBytes(options.json, slotJson(slot, result, ModelBandwidthCode));
     if (!result.accepted) {
         std::fprintf(stderr, "%s: %s\n", qPrintable(options.files.first()), qPrintable(result.message));
         return Refused;

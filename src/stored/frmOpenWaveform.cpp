@@ -149,7 +149,8 @@ QPushButton* frmOpenWaveform::stepper(QWidget* parent, const QString& name, cons
     auto* button = named(new QPushButton(text, parent), name);
     button->setFixedWidth(24);
     button->setFocusPolicy(Qt::NoFocus);
-    connect(button, &QPushButton::pressed, this, [this, target, direction] { StepperPress(target, direction); });
+    connect(button, &QPushButton::pressed, this,
+            [this, target, direction] { StepperPress(target, direction); });
     connect(button, &QPushButton::released, this, &frmOpenWaveform::StepperRelease);
     return button;
 }
@@ -227,14 +228,15 @@ QWidget* frmOpenWaveform::buildSidePanel()
     FlatBttn4 = named(new QPushButton(side), "FlatBttn4");
     cmdPrint = named(new QPushButton(side), "cmdPrint");
     cmdPreview = named(new QPushButton(side), "cmdPreview");
-    framDisplay = framed(side, "framDisplay", {LblZoom, ZoomCombo, OptionColor[0], OptionColor[1], GridCheck});
+    framDisplay =
+        framed(side, "framDisplay", {LblZoom, ZoomCombo, OptionColor[0], OptionColor[1], GridCheck});
     framCursor = framed(side, "framCursor", {ChkCursorX, ChkCursorY});
     framOutput = framed(side, "framOutput", {FlatBttn3, FlatBttn4, cmdPrint, cmdPreview, FlatBttn1});
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(3, 3, 3, 3);
     column->setSpacing(3);
     for (QWidget* part : std::initializer_list<QWidget*>{framVoltDiv, framTimeDiv, framAltTimeDiv, Reset,
-                                                          framDisplay, framCursor, framOutput})
+                                                         framDisplay, framCursor, framOutput})
         column->addWidget(part);
     column->addStretch(1);
     side->setFixedWidth(170);

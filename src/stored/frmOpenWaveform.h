@@ -89,7 +89,8 @@ class frmOpenWaveform : public QWidget, public PrintablePicture {
     QGroupBox* buildVoltFrame(QWidget* side);
     QGroupBox* buildTimeFrames(QWidget* side);
     void connectControls();
-    QPushButton* stepper(QWidget* parent, const QString& name, const QString& text, int target, int direction);
+    QPushButton* stepper(QWidget* parent, const QString& name, const QString& text, int target,
+                         int direction);
     void stepOnce();
     void showCursors();
     void showProgress(bool shown, int percent = 0);

@@ -23,8 +23,10 @@ constexpr qint64 RowsPerTurn = 4096;
 FileDialogRequest csvDialogRequest(int language)
 {
     if (IsChinese(language))
-        return {QStringLiteral("保存到CSV文件"), QtFileFilter(QStringLiteral("CSV文件 (*.csv)|*.csv")), {}, {}};
-    return {QStringLiteral("Save To CSV file"), QtFileFilter(QStringLiteral("CSV Files (*.csv)|*.csv")), {}, {}};
+        return {
+            QStringLiteral("保存到CSV文件"), QtFileFilter(QStringLiteral("CSV文件 (*.csv)|*.csv")), {}, {}};
+    return {
+        QStringLiteral("Save To CSV file"), QtFileFilter(QStringLiteral("CSV Files (*.csv)|*.csv")), {}, {}};
 }
 
 } // namespace
@@ -55,7 +57,8 @@ void LoadMemoryWave(int window, bool fromFile)
     frmOpenWaveform* form = MemoryWaveWindowOf(window);
     if (slot.HasData) {
         if (fromFile) slot.FileName = path;
-        if (form) form->setWindowTitle(slot.Name + QStringLiteral("  (") + slot.FileName + QStringLiteral(")"));
+        if (form)
+            form->setWindowTitle(slot.Name + QStringLiteral("  (") + slot.FileName + QStringLiteral(")"));
     }
     DataSheetDirty = true;
     if (form) form->ShowLoaded();

@@ -120,8 +120,8 @@ void frmOpenWaveform::Form_Resize()
     VScroll->setGeometry(pane.right() + 1, pane.top(), VScroll->sizeHint().width(), pane.height());
     HScroll->setVisible(overW > 0);
     VScroll->setVisible(overH > 0);
-    MemoryWavePic->move(ScrolledPicturePlace(overW > 0 ? HScroll->value() : 0, overH > 0 ? VScroll->value() : 0,
-                                             HScrollUnit, VScrollUnit) +
+    MemoryWavePic->move(ScrolledPicturePlace(overW > 0 ? HScroll->value() : 0,
+                                             overH > 0 ? VScroll->value() : 0, HScrollUnit, VScrollUnit) +
                         QPoint(frame, frame));
     framRefresh->move(ProgressStripPlace(MemoryWavePic->pos(), PictureZoom, framRefresh->size()));
     if (!firstLayout_) DrawPicture();

@@ -89,7 +89,8 @@ WaveRecord MemoryDrawRecord(const MemoryWaveSlot& s, const MemoryWaveScreen& scr
         if (s.ModeXY) {
             r.channelWave(channel) = xyRows(screen.rows[size_t(n)]);
         } else {
-            r.channelWave(channel) = placeRows(screen.rows[size_t(n)], start, peak ? PeakOrigin : TraceOrigin);
+            r.channelWave(channel) =
+                placeRows(screen.rows[size_t(n)], start, peak ? PeakOrigin : TraceOrigin);
             if (peak) r.channelPeak(channel) = placeRows(screen.peakRows[size_t(n)], start, PeakOrigin);
         }
     }

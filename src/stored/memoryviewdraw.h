@@ -16,7 +16,8 @@ class Surface;
 WaveRecord MemoryDrawRecord(const MemoryWaveSlot& slot, const MemoryWaveScreen& screen);
 
 // Grid, channels (marks, traces), trigger marks and readouts on the surface.
-void DrawMemoryWave(Surface& surface, double zoom, const MemoryWaveSlot& slot, const MemoryWaveScreen& screen);
+void DrawMemoryWave(Surface& surface, double zoom, const MemoryWaveSlot& slot,
+                    const MemoryWaveScreen& screen);
 // The same on a new picture of the zoom's size.
 QImage MemoryWavePicture(double zoom, const MemoryWaveSlot& slot, const MemoryWaveScreen& screen);
 

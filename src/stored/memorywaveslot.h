@@ -63,7 +63,7 @@ struct MemoryWaveSlot {
     double StartTimeB = 0;
     uint8_t TriggerSourceA = 0, TriggerSourceB = 0;
 
-    QByteArray Header;          // the 420 header bytes as loaded
+    QByteArray Header;         // the 420 header bytes as loaded
     MemoryWaveSettings Loaded; // SnapshotLoadedSettings
     bool GridOn = true;
     bool ColorOn = true;

@@ -43,7 +43,7 @@ void devGetStopScrWave64(uint8_t /*mode*/, float sampleRate, int32_t count, doub
     // Roll keeps its ring in the samples; the columns map the same way and the
     // refresh turns the ring (see RefreshMemoryChannels).
     const double b = timeDiv / 25 * sampleRate;
-    const double a = (delay - 150 * timeDiv / 25 - startTime) * sampleRate + count / 2.0;
+    const double a = (delay - 150 * timeDiv / 25 - startTime) * sampleRate;
     if (count <= 0 || !(b > 0) || !std::isfinite(a) || !std::isfinite(b)) return markOffScreen(out);
     const double first = std::max(0.0, std::ceil((-0.5 - a) / b));
     const double last = std::min(double(ScreenColumns - 1), std::floor((count - 0.5 - a) / b));
@@ -59,7 +59,8 @@ int16_t WaveZoom(std::span<const int16_t> source, std::vector<int16_t>& destinat
 {
     if (points <= 0 || source.empty()) return 0;
     std::vector<int16_t> out(static_cast<size_t>(points));
-    const long long low = std::min(window.StartPt, window.EndPt), high = std::max(window.StartPt, window.EndPt);
+    const long long low = std::min(window.StartPt, window.EndPt),
+                    high = std::max(window.StartPt, window.EndPt);
     for (int k = 0; k < points; ++k) {
         const long long j = std::clamp(std::llround(stepOfPoint(window, k)), low, high);
         const qsizetype at = placeOf(j, qsizetype(source.size()), ringStart);
@@ -104,7 +105,8 @@ int16_t PeakWaveZoom(std::span<const int16_t> source, std::vector<int16_t>& mini
 void WaveZoomV(std::vector<int16_t>& codes, float voltDivNow, float offsetNow, float voltDivData,
                float offsetData)
 {
-    if (!(voltDivNow != 0) || !(voltDivData != 0) || !std::isfinite(voltDivNow) || !std::isfinite(voltDivData))
+    if (!(voltDivNow != 0) || !(voltDivData != 0) || !std::isfinite(voltDivNow) ||
+        !std::isfinite(voltDivData))
         return;
     const double posNow = double(offsetNow) / voltDivNow * 25;
     const double posData = double(offsetData) / voltDivData * 25;
@@ -155,8 +157,8 @@ void refreshChannel(const MemoryWaveSlot& s, MemoryWaveScreen& screen, int n)
     const int32_t ring = s.ModeRoll && !s.IsAlternation ? s.RollPosition : 0;
     const bool peak = s.ChanPeakState[size_t(n)];
     std::vector<int16_t> low, high;
-    const int16_t mapped = peak ? PeakWaveZoom(source, low, high, w, points, ring)
-                                : WaveZoom(source, low, w, points, ring);
+    const int16_t mapped =
+        peak ? PeakWaveZoom(source, low, high, w, points, ring) : WaveZoom(source, low, w, points, ring);
     if (mapped == 0) return;
     const float voltDivData = s.ChanVoltDivMeasured[size_t(n)];
     const float offsetData = float(s.ChanShiftMeasured[size_t(n)] / 25.0 * voltDivData);

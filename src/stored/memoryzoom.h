@@ -14,10 +14,9 @@
 inline constexpr int ScreenColumns = 300;
 inline constexpr int ScreenRows = 200;
 
-// Mode 0 normal, 2 Roll. Sample step j (of `count`) lies at start + (j - count / 2)
-// / rate; column x shows delay + (x - 150) timeDiv / 25. The outs get the columns
-// that show a step by nearest sample and the steps at their ends. When no column
-// does, ScrStartPos and ScrEndPos are 300.
+// Mode 0 normal, 2 Roll. Sample step j (of `count`) lies at start + j / rate; column x shows delay + (x -
+// 150) timeDiv / 25. The outs get the columns that show a step by nearest sample and the steps at their ends.
+// When no column does, ScrStartPos and ScrEndPos are 300.
 void devGetStopScrWave64(uint8_t mode, float sampleRate, int32_t count, double delay, double startTime,
                          double timeDiv, int32_t rollPosition, MemoryWaveWindow& out);
 
