@@ -60,6 +60,18 @@ QLineEdit* valueBox(QWidget* parent, const QString& name)
     return box;
 }
 
+// Two controls side by side, to keep the panel short.
+QWidget* pair(QWidget* parent, QWidget* left, QWidget* right)
+{
+    auto* row = new QWidget(parent);
+    auto* line = new QHBoxLayout(row);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(3);
+    line->addWidget(left);
+    line->addWidget(right);
+    return row;
+}
+
 // Captions of the window that the file menu's list doesn't hold.
 QString voltFrameCaption(int language)
 {
@@ -139,8 +151,6 @@ void frmOpenWaveform::buildControls()
     framRefresh->hide();
     Timer1 = named(new QTimer(this), "Timer1");
     Timer2 = named(new QTimer(this), "Timer2");
-    resize(side_->sizeHint().width() + int(PictureSizeAt(1.0).width()) + 40,
-           std::max(side_->sizeHint().height(), PictureSizeAt(1.0).height() + 40));
 }
 
 QPushButton* frmOpenWaveform::stepper(QWidget* parent, const QString& name, const QString& text, int target,
@@ -228,10 +238,11 @@ QWidget* frmOpenWaveform::buildSidePanel()
     FlatBttn4 = named(new QPushButton(side), "FlatBttn4");
     cmdPrint = named(new QPushButton(side), "cmdPrint");
     cmdPreview = named(new QPushButton(side), "cmdPreview");
-    framDisplay =
-        framed(side, "framDisplay", {LblZoom, ZoomCombo, OptionColor[0], OptionColor[1], GridCheck});
-    framCursor = framed(side, "framCursor", {ChkCursorX, ChkCursorY});
-    framOutput = framed(side, "framOutput", {FlatBttn3, FlatBttn4, cmdPrint, cmdPreview, FlatBttn1});
+    framDisplay = framed(side, "framDisplay",
+                         {LblZoom, ZoomCombo, pair(side, OptionColor[0], OptionColor[1]), GridCheck});
+    framCursor = framed(side, "framCursor", {pair(side, ChkCursorX, ChkCursorY)});
+    framOutput = framed(side, "framOutput",
+                        {pair(side, FlatBttn3, FlatBttn4), pair(side, cmdPrint, cmdPreview), FlatBttn1});
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(3, 3, 3, 3);
     column->setSpacing(3);
@@ -239,7 +250,7 @@ QWidget* frmOpenWaveform::buildSidePanel()
                                                          framDisplay, framCursor, framOutput})
         column->addWidget(part);
     column->addStretch(1);
-    side->setFixedWidth(170);
+    side->setFixedWidth(180);
     return side;
 }
 
@@ -296,6 +307,11 @@ void frmOpenWaveform::SetCaptions(int language)
     FlatBttn1->setText(closeCaption(language));
     for (QPushButton* button : {FlatBttn4, cmdPrint, cmdPreview})
         button->setText(button->text().trimmed());
+    // The controls never get cut: the window is at least as tall as its panel.
+    const QSize panel = side_->sizeHint();
+    setMinimumSize(panel.width() + 120, panel.height());
+    resize(std::max(width(), panel.width() + PictureSizeAt(1.0).width() + 30),
+           std::max(height(), panel.height()));
 }
 
 void frmOpenWaveform::Timer1_Timer()

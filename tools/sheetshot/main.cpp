@@ -78,7 +78,7 @@ void showMemoryWave(frmMain* window, const QString& file)
     for (QMdiSubWindow* sub : subWindows) {
         for (const char* box : {"ChkCursorX", "ChkCursorY"})
             if (auto* check = sub->findChild<QAbstractButton*>(QString::fromLatin1(box))) check->click();
-        sub->resize(720, 520);
+        sub->resize(760, 560);
     }
 }
 
