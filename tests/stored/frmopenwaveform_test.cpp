@@ -9,9 +9,11 @@
 #include "wave/frmWavePrint.h"
 #include "wfmbytes.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QPrinter>
@@ -125,6 +127,19 @@ TEST_F(MemoryWaveWindowTest, StepsRepeatWhileHeldAndResetRestoresTheLoadedSettin
     EXPECT_DOUBLE_EQ(slot().TimeDiv, 5e-4);
     EXPECT_EQ(control<QLineEdit>("txtTimeDiv")->text(), QStringLiteral("500.0us"));
     EXPECT_EQ(window->picture(), loaded);
+}
+
+TEST_F(MemoryWaveWindowTest, CtrlWithKeypadPlusAndMinusStepTheTimeBase)
+{
+    open();
+    QKeyEvent plus(QEvent::KeyPress, Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier);
+    QApplication::sendEvent(window, &plus);
+    EXPECT_DOUBLE_EQ(slot().TimeDiv, 1e-3);
+    QKeyEvent minus(QEvent::KeyPress, Qt::Key_Minus, Qt::ControlModifier | Qt::KeypadModifier);
+    QApplication::sendEvent(window, &minus);
+    QApplication::sendEvent(window, &minus);
+    EXPECT_DOUBLE_EQ(slot().TimeDiv, 2e-4);
+    EXPECT_EQ(control<QLineEdit>("txtTimeDiv")->text(), QStringLiteral("200.0us"));
 }
 
 TEST_F(MemoryWaveWindowTest, ZoomTakesTheNumberWithOrWithoutPercent)

@@ -135,3 +135,30 @@ TEST(MemorySteps, AVoltsStepKeepsTheTraceInPlace)
 }
 
 } // namespace
+
+namespace {
+
+TEST(MemoryZoom, RollTurnsTheRingSoTheOldestStepComesFirst)
+{
+    MemoryWaveSlot slot;
+    slot.ChanEnabled[0] = true;
+    slot.ChanVoltDiv = slot.ChanVoltDivMeasured = {1, 1, 1, 1};
+    slot.ModeRoll = true;
+    slot.RollPosition = 1000;
+    slot.SampleCount = 3000;
+    slot.SampleRate = 250e3f;
+    slot.StartTime = -6e-3;
+    slot.TimeDiv = 1e-3;
+    // Chronological step j lies at (1000 + j) mod 3000 and holds row 25 + j / 20.
+    slot.Samples[0].assign(3001, 0);
+    for (int j = 0; j < 3000; ++j)
+        slot.Samples[0][size_t((1000 + j) % 3000)] = int16_t(50 + j / 20);
+    ComputeMemoryWindows(slot);
+    MemoryWaveScreen screen;
+    RefreshMemoryChannels(slot, screen);
+    ASSERT_EQ(screen.rows[0].size(), 600u);
+    EXPECT_EQ(screen.rows[0].front(), 25);
+    EXPECT_EQ(screen.rows[0][598], 25 + 2990 / 20);
+}
+
+} // namespace
