@@ -14,14 +14,15 @@
 inline constexpr int ScreenColumns = 300;
 inline constexpr int ScreenRows = 200;
 
-// Mode 0 normal, 2 Roll. Sample step j (of `count`) lies at start + j / rate; column x shows delay + (x -
-// 150) timeDiv / 25. The outs get the columns that show a step by nearest sample and the steps at their ends.
-// When no column does, ScrStartPos and ScrEndPos are 300.
+// Mode 0 normal, 2 Roll. Sample step j (of `count`) lies at start + j / rate;
+// column x shows delay + (x - 150) timeDiv / 25. The outs get the columns that
+// show a step by nearest sample and the steps at their ends. When no column
+// does, ScrStartPos and ScrEndPos are 300.
 void devGetStopScrWave64(uint8_t mode, float sampleRate, int32_t count, double delay, double startTime,
                          double timeDiv, int32_t rollPosition, MemoryWaveWindow& out);
 
 // Nearest sample for each of `points` points (two a column) from StartPt to
-// EndPt. `at` maps a step to its place in the source (Roll turns the ring).
+// EndPt. In Roll the oldest step sits at `ringStart`, and the steps wrap around.
 // Returns 0 when nothing could be mapped.
 int16_t WaveZoom(std::span<const int16_t> source, std::vector<int16_t>& destination,
                  const MemoryWaveWindow& window, int points, int32_t ringStart = 0);
