@@ -22,6 +22,8 @@ constexpr Subcommand subcommands[] = {
      RunMeasureCommand},
     {"screen", "Read the instrument's screen picture and write it.", RunScreenCommand},
     {"key", "Press front-panel keys by control name, holding some for a number of ticks.", RunKeyCommand},
+    {"wfm", "Load waveform files as the memory wave window does; JSON, CSV, picture or a CSV batch.",
+     RunWfmCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)

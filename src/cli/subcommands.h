@@ -21,3 +21,6 @@ int RunMeasureCommand(const QStringList& arguments);
 int RunScreenCommand(const QStringList& arguments);
 // Presses front-panel keys by control name, NAME@TICKS holding a repeat key.
 int RunKeyCommand(const QStringList& arguments);
+// Loads a waveform file as the memory wave window does and writes it as JSON,
+// CSV or a picture; with --csv-dir converts many. 0 loaded, 3 refused, 2 usage.
+int RunWfmCommand(const QStringList& arguments);

@@ -9,6 +9,11 @@
 #include "text/captionwidgets.h"
 #include "text/language.h"
 #include "text/productinfo.h"
+#include "sheet/frmSheetWindows.h"
+#include "sheet/sheetslots.h"
+#include "document/sheetstate.h"
+#include "stored/frmOpenWaveform.h"
+#include "stored/storedfiledialogs.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -70,15 +75,15 @@ void frmDataSheetTree::AddWindow(SheetKind kind)
     root()->setExpanded(true);
     sortIfFlagged();
     DataSheetTree->setCurrentItem(child.node);
-    askForStoredFile(kind);
+    askForStoredFile(kind, slot);
 }
 
 // A new memory wave or record window goes straight on to its file dialog; a
-// cancel leaves the empty window. The chosen file is read once those windows land.
-void frmDataSheetTree::askForStoredFile(SheetKind kind)
+// cancel leaves the empty window. The chosen record file is read once its window lands.
+void frmDataSheetTree::askForStoredFile(SheetKind kind, int slot)
 {
     if (kind == SheetKind::MemoryWave)
-        OpenFileDialog(MemoryWaveDialogRequest(Language));
+        LoadMemoryWave(slot, true);
     else if (kind == SheetKind::Record)
         OpenFileDialog(RecordDialogRequest(Language));
 }

@@ -59,7 +59,7 @@ class frmDataSheetTree : public QWidget {
     void mainTitleChanged(const QString& title);
 
   private:
-    void askForStoredFile(SheetKind kind);
+    void askForStoredFile(SheetKind kind, int slot);
 
     struct Child {
         QTreeWidgetItem* node = nullptr;

@@ -2,6 +2,7 @@
 
 #include "analysis/frmData.h"
 #include "analysis/frmMeasure.h"
+#include "stored/frmOpenWaveform.h"
 #include "wave/frmWave.h"
 
 #include <QMdiArea>
@@ -12,7 +13,7 @@ namespace {
 
 constexpr const char* tagProperty = "Tag";
 
-// Memory wave and record windows start as empty frames of the right name and
+// Record windows start as empty frames of the right name and
 // size until their own windows land.
 QMdiSubWindow* makeEmptyWindow(QMdiArea* area, SheetKind kind)
 {
@@ -33,6 +34,7 @@ QMdiSubWindow* makeWindow(QMdiArea* area, SheetKind kind, int slot)
     case SheetKind::Wave: return frameOf(CreateWaveWindow(area, slot));
     case SheetKind::Measure: return frameOf(CreateMeasureWindow(area, slot));
     case SheetKind::Data: return frameOf(CreateDataWindow(area, slot));
+    case SheetKind::MemoryWave: return frameOf(CreateMemoryWaveWindow(area, slot));
     default: return makeEmptyWindow(area, kind);
     }
 }
@@ -68,6 +70,8 @@ void SetWindowTag(QMdiSubWindow* window, int slot)
         wave->setSlot(slot);
     else if (auto* table = qobject_cast<TableWindowBase*>(window->widget()))
         table->setSlot(slot);
+    else if (auto* memory = qobject_cast<frmOpenWaveform*>(window->widget()))
+        memory->setSlot(slot);
     else
         window->widget()->setProperty(tagProperty, QString::number(slot));
 }
@@ -77,6 +81,7 @@ int WindowTag(const QMdiSubWindow* window)
     if (!window || !window->widget()) return -1;
     if (auto* wave = qobject_cast<const frmWave*>(window->widget())) return wave->slot();
     if (auto* table = qobject_cast<const TableWindowBase*>(window->widget())) return table->slot();
+    if (auto* memory = qobject_cast<const frmOpenWaveform*>(window->widget())) return memory->slot();
     bool ok = false;
     const int slot = window->widget()->property(tagProperty).toString().toInt(&ok);
     return ok ? slot : -1;

@@ -3,6 +3,7 @@
 #include "acquire/waverecord.h"
 #include "analysis/datarecord.h"
 #include "analysis/measurerecord.h"
+#include "stored/memorywaveslot.h"
 #include "wave/fftsetting.h"
 
 #include <algorithm>
@@ -39,6 +40,11 @@ void nameMeasure(int slot, const QString& name)
     if (inTable<MeasureRecords>(slot)) MeasureRecords[static_cast<size_t>(slot)].Title = name;
 }
 
+void nameMemoryWave(int slot, const QString& name)
+{
+    if (inTable<MemoryWaveSlots>(slot)) MemoryWaveSlots[static_cast<size_t>(slot)].Name = name;
+}
+
 // A wave window's slot is its record and the FFT dialog's placeholder beside it.
 void clearWave(int slot)
 {
@@ -63,7 +69,7 @@ const std::array<SlotTable, SheetKindCount> slotTables{{
     {clearSlot<MeasureRecords>, shiftDown<MeasureRecords>, nameMeasure}, // Measure
     {clearSlot<DataRecords>, shiftDown<DataRecords>, nullptr},           // Data
     {clearWave, shiftWaves, nameWave},                                   // Wave
-    {},                                                                  // Memory Wave
+    {clearSlot<MemoryWaveSlots>, shiftDown<MemoryWaveSlots>, nameMemoryWave}, // Memory Wave
     {},                                                                  // Record
 }};
 

@@ -8,6 +8,7 @@
 #include "link/linkstate.h"
 #include "document/sheetstate.h"
 #include "panel/panelstate.h"
+#include "stored/memorywaveslot.h"
 #include "text/language.h"
 #include "wave/fftsetting.h"
 #include "wave/waverefresh.h"
@@ -25,4 +26,5 @@ void ResetProgramState()
     ResetWaveRefreshState();
     ResetFftPlaceholders();
     ResetPanelState();
+    ResetMemoryWaveSlots();
 }

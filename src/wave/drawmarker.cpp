@@ -61,7 +61,7 @@ void drawChannelLegend(Surface& s, int channel, const QString& scaleText, double
 
 void DrawChannelMarker(const WaveCanvas& canvas, int channel, const QString& offsetText,
                        const QString& scaleText, const QString& triggerMode, const QString& fftDisplayText,
-                       int8_t s8FFTScreen)
+                       int8_t s8FFTScreen, bool withLegend)
 {
     if (channel < 1 || channel > 4) return;
     const double scale = ParseVoltText(scaleText);
@@ -81,5 +81,5 @@ void DrawChannelMarker(const WaveCanvas& canvas, int channel, const QString& off
         const double lift = rule.lowered ? RoundToInt16(100 * z).value_or(0) : 0;
         drawInsideMarker(canvas.surface, y / div, lift, z, channel);
     }
-    drawChannelLegend(canvas.surface, channel, scaleText, z);
+    if (withLegend) drawChannelLegend(canvas.surface, channel, scaleText, z);
 }

@@ -39,6 +39,16 @@ void drawTriggerMarker(Surface& s, double p, double z, double triangleTop, doubl
 
 } // namespace
 
+void DrawTriggerMarker(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
+                       bool lowerHalf, bool colorMode)
+{
+    const std::optional<double> p = triggerColumn(timeScaleText, timeOffsetText);
+    if (!p) return;
+    const double lift = lowerHalf ? 100 * canvas.Zoom : 0;
+    canvas.surface.setForeColor(PaletteFor(colorMode).maker);
+    drawTriggerMarker(canvas.surface, *p, canvas.Zoom, lift + 26, lift + 30);
+}
+
 void DrawTimeMarker(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
                     bool colorMode)
 {

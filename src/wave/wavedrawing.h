@@ -15,10 +15,11 @@ void DrawScrGrid(const WaveCanvas& canvas, const WaveRecord& record);
 // Markers, traces and legends of a record that holds a finished reading.
 void DrawOSC(const WaveCanvas& canvas, const WaveRecord& record);
 
-// Marker arrow and legend of channel 1 to 4, in the fore colour in force.
+// Marker arrow and legend of channel 1 to 4, in the fore colour in force. The
+// memory view writes legends of its own and leaves this one out.
 void DrawChannelMarker(const WaveCanvas& canvas, int channel, const QString& offsetText,
                        const QString& scaleText, const QString& triggerMode, const QString& fftDisplayText,
-                       int8_t s8FFTScreen);
+                       int8_t s8FFTScreen, bool withLegend = true);
 
 // One ordinary trace of channel 1 to 4 (samples at index i + 212).
 void DrawChannelTrace(const WaveCanvas& canvas, const WaveArray& wave, int points, int channel,
@@ -43,6 +44,9 @@ void DrawFftTrace(const WaveCanvas& canvas, const WaveArray& fft, int points, co
 // Spectrum width in grid pixels for s16FFTHorizScale.
 int FftWidth(int s16FFTHorizScale);
 
+// The T marker of one time base alone, on the upper (or only) or the lower half, in the maker colour.
+void DrawTriggerMarker(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
+                       bool lowerHalf, bool colorMode);
 // The T marker and time legends of a single time base, and of the two of alternate trigger.
 void DrawTimeMarker(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
                     bool colorMode);

@@ -2,6 +2,8 @@
 // windows (or, with "analysis", a measure window with limits set and a data
 // window), Tools > Connect, Refresh in each, windows tiled; then saves a picture
 // of the main window. Used by tools/wave_screenshot.sh against the simulator.
+// With "memory FILE.wfm": a memory wave window opened on the file, cursors on
+// (tools/memory_screenshot.sh).
 #include "analysis/frmPassFailed.h"
 #include "analysis/measurerecord.h"
 #include "controller/ctrlstate.h"
@@ -67,6 +69,19 @@ void saveLimitsDialog(frmMain* window, QString path)
     dialog.grab().save(path);
 }
 
+void showMemoryWave(frmMain* window, const QString& file)
+{
+    trigger(window, "mnuNewDataSheet");
+    static_cast<CliPlatform&>(platform()).queueOpenPath(file);
+    trigger(window, "AddNewMemoryWaveform");
+    const auto subWindows = window->mdiArea()->subWindowList();
+    for (QMdiSubWindow* sub : subWindows) {
+        for (const char* box : {"ChkCursorX", "ChkCursorY"})
+            if (auto* check = sub->findChild<QAbstractButton*>(QString::fromLatin1(box))) check->click();
+        sub->resize(760, 560);
+    }
+}
+
 int finish(frmMain* window, const QString& path)
 {
     const bool saved = window->grab().save(path);
@@ -81,17 +96,26 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(ProgramTitle);
     if (argc < 2) {
-        std::fprintf(stderr, "usage: selvane-sheetshot OUT.png [wave|analysis]\n");
+        std::fprintf(stderr, "usage: selvane-sheetshot OUT.png [wave|analysis|memory FILE.wfm]\n");
         return 2;
     }
     const QString path = QString::fromLocal8Bit(argv[1]);
     const bool analysis = argc > 2 && QByteArray(argv[2]) == "analysis";
+    const QString memoryFile = argc > 3 && QByteArray(argv[2]) == "memory" ? QString::fromLocal8Bit(argv[3]) : QString();
     // Boxes go to stderr and take their default answer: nobody is there to click.
     installPlatform(std::make_unique<CliPlatform>());
 
     std::unique_ptr<frmMain> window(Main());
     window->resize(1200, 760);
     int status = 1;
+    if (!memoryFile.isEmpty()) {
+        QTimer::singleShot(300, window.get(), [&] {
+            showMemoryWave(window.get(), memoryFile);
+            QTimer::singleShot(500, window.get(), [&] { QApplication::exit(status = finish(window.get(), path)); });
+        });
+        QApplication::exec();
+        return status;
+    }
     QTimer::singleShot(300, window.get(), [&, analysis] {
         trigger(window.get(), "mnuNewDataSheet");
         addWindows(window.get(), analysis);
