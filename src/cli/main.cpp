@@ -20,6 +20,7 @@ constexpr Subcommand subcommands[] = {
     {"download", "Read every setting of the instrument and write a control file.", RunDownloadCommand},
     {"measure", "Read one channel's measurements, judge them against limits and write the export.",
      RunMeasureCommand},
+    {"rcd", "Load a record file and write its fields, one frame or every frame as pictures.", RunRcdCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)

@@ -17,3 +17,7 @@ int RunDownloadCommand(const QStringList& arguments);
 // the export (--out FILE.txt). 0 when every limited item passes, 1 when one
 // fails, 2 on a usage, link or file error.
 int RunMeasureCommand(const QStringList& arguments);
+// Loads a record file into the first record slot and writes its fields (--json),
+// one frame's picture (--frame K --picture FILE) or every frame (--frames-dir).
+// 0 loaded, 3 refused, 2 on a usage error, 1 when an output can't be written.
+int RunRcdCommand(const QStringList& arguments);

@@ -8,6 +8,7 @@
 #include "sheet/frmSheetWindows.h"
 #include "sheet/sheetslots.h"
 #include "sheet/sheetstate.h"
+#include "stored/frmRecordPlay.h"
 #include "stored/storedfiledialogs.h"
 
 #include <QEvent>
@@ -82,13 +83,13 @@ void frmDataSheetTree::AddWindow(SheetKind kind)
 }
 
 // A new memory wave or record window goes straight on to its file dialog; a
-// cancel leaves the empty window. The chosen file is read once those windows land.
+// cancel leaves the empty window. The chosen memory wave file is read once that window lands.
 void frmDataSheetTree::askForStoredFile(SheetKind kind)
 {
     if (kind == SheetKind::MemoryWave)
         OpenFileDialog(MemoryWaveDialogRequest(Language));
     else if (kind == SheetKind::Record)
-        OpenFileDialog(RecordDialogRequest(Language));
+        LoadRecordWindowFile(childrenOf(kind).back().window);
 }
 
 void frmDataSheetTree::SetActiveForm()

@@ -2,6 +2,7 @@
 
 #include "analysis/frmData.h"
 #include "analysis/frmMeasure.h"
+#include "stored/frmRecordPlay.h"
 #include "wave/frmWave.h"
 
 #include <QMdiArea>
@@ -12,8 +13,8 @@ namespace {
 
 constexpr const char* tagProperty = "Tag";
 
-// Memory wave and record windows start as empty frames of the right name and
-// size until their own windows land.
+// Memory wave windows start as empty frames of the right name and size until
+// their own windows land.
 QMdiSubWindow* makeEmptyWindow(QMdiArea* area, SheetKind kind)
 {
     auto* content = new QWidget;
@@ -33,6 +34,7 @@ QMdiSubWindow* makeWindow(QMdiArea* area, SheetKind kind, int slot)
     case SheetKind::Wave: return frameOf(CreateWaveWindow(area, slot));
     case SheetKind::Measure: return frameOf(CreateMeasureWindow(area, slot));
     case SheetKind::Data: return frameOf(CreateDataWindow(area, slot));
+    case SheetKind::Record: return frameOf(CreateRecordPlayWindow(area, slot));
     default: return makeEmptyWindow(area, kind);
     }
 }

@@ -3,6 +3,7 @@
 #include "acquire/waverecord.h"
 #include "analysis/datarecord.h"
 #include "analysis/measurerecord.h"
+#include "stored/recordslot.h"
 
 #include <algorithm>
 
@@ -23,6 +24,7 @@ void ClearSlotRecord(SheetKind kind, int slot)
     switch (kind) {
     case SheetKind::Measure: ClearMeasureSlot(slot); break;
     case SheetKind::Data: ClearDataSlot(slot); break;
+    case SheetKind::Record: ClearRecordSlot(slot); break;
     default: break;
     }
 }
@@ -33,6 +35,7 @@ void ShiftSlotRecords(SheetKind kind, int slot)
     case SheetKind::Wave: shiftDown(WaveRecords, slot); break;
     case SheetKind::Data: shiftDown(DataRecords, slot); break;
     case SheetKind::Measure: shiftDown(MeasureRecords, slot); break;
+    case SheetKind::Record: shiftDown(RecordSlots, slot); break;
     default: break;
     }
 }
@@ -42,4 +45,6 @@ void NameSlotRecord(SheetKind kind, int slot, const QString& name)
     if (kind == SheetKind::Wave && slot >= 0 && slot < WaveRecordCount) WaveRecords[slot].WaveTitle = name;
     if (kind == SheetKind::Measure && slot >= 0 && slot < MeasureRecordCount)
         MeasureRecords[size_t(slot)].Title = name;
+    if (kind == SheetKind::Record)
+        if (RecordSlot* record = RecordSlotAt(slot)) record->Name = name;
 }

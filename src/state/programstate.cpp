@@ -7,6 +7,7 @@
 #include "frame/framestate.h"
 #include "link/linkstate.h"
 #include "sheet/sheetstate.h"
+#include "stored/recordslot.h"
 #include "text/language.h"
 #include "wave/fftsetting.h"
 #include "wave/waverefresh.h"
@@ -23,4 +24,5 @@ void ResetProgramState()
     ResetLinkState();
     ResetWaveRefreshState();
     ResetFftPlaceholders();
+    ResetRecordSlots();
 }

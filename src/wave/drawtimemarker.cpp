@@ -55,6 +55,12 @@ void DrawTimeMarker(const WaveCanvas& canvas, const QString& timeScaleText, cons
     s.text(QPointF(GridMargin + 150 * z, GridMargin + 203 * z), timeScaleText, false);
 }
 
+void DrawTriggerMark(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText)
+{
+    if (const std::optional<double> p = triggerColumn(timeScaleText, timeOffsetText))
+        drawTriggerMarker(canvas.surface, *p, canvas.Zoom, 26, 30);
+}
+
 void DrawAltTimeMarkers(const WaveCanvas& canvas, const QString& scaleAText, const QString& scaleBText,
                         const QString& offsetAText, const QString& offsetBText, bool colorMode)
 {

@@ -19,6 +19,10 @@ void DrawChannelMarker(const WaveCanvas& canvas, int channel, const QString& off
                        const QString& scaleText, const QString& triggerMode, const QString& fftDisplayText,
                        int8_t s8FFTScreen);
 
+// The marker arrow of channel 1 to 4 alone, on a full screen of one time base.
+void DrawChannelMark(const WaveCanvas& canvas, int channel, const QString& offsetText,
+                     const QString& scaleText);
+
 // One ordinary trace of channel 1 to 4 (samples at index i + 212).
 void DrawChannelTrace(const WaveCanvas& canvas, const WaveArray& wave, int points, int channel,
                       const WaveParameter& parameter, const QString& triggerMode,
@@ -42,6 +46,8 @@ void DrawFftTrace(const WaveCanvas& canvas, const WaveArray& fft, int points, co
 // Spectrum width in grid pixels for s16FFTHorizScale.
 int FftWidth(int s16FFTHorizScale);
 
+// The T marker alone, in the fore colour in force; a zero scale draws none.
+void DrawTriggerMark(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText);
 // The T marker and time legends of a single time base, and of the two of alternate trigger.
 void DrawTimeMarker(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
                     bool colorMode);
