@@ -2,6 +2,8 @@
 // windows (or, with "analysis", a measure window with limits set and a data
 // window), Tools > Connect, Refresh in each, windows tiled; then saves a picture
 // of the main window. Used by tools/wave_screenshot.sh against the simulator.
+// With "record FILE.rcd" it opens one record window on the file instead and
+// takes the picture mid-play (tools/record_screenshot.sh).
 #include "analysis/frmPassFailed.h"
 #include "analysis/measurerecord.h"
 #include "controller/ctrlstate.h"
@@ -67,6 +69,16 @@ void saveLimitsDialog(frmMain* window, QString path)
     dialog.grab().save(path);
 }
 
+// A record window on the file, playing: the picture is taken a few frames in.
+void playRecord(frmMain* window)
+{
+    trigger(window, "mnuNewDataSheet");
+    trigger(window, "AddNewRecord");
+    trigger(window, "mnuWindowTileHorizontal");
+    for (QMdiSubWindow* sub : window->mdiArea()->subWindowList())
+        if (auto* play = sub->findChild<QAbstractButton*>(QStringLiteral("AresBtnPlay_0"))) play->click();
+}
+
 int finish(frmMain* window, const QString& path)
 {
     const bool saved = window->grab().save(path);
@@ -86,12 +98,24 @@ int main(int argc, char** argv)
     }
     const QString path = QString::fromLocal8Bit(argv[1]);
     const bool analysis = argc > 2 && QByteArray(argv[2]) == "analysis";
+    const bool record = argc > 3 && QByteArray(argv[2]) == "record";
     // Boxes go to stderr and take their default answer: nobody is there to click.
-    installPlatform(std::make_unique<CliPlatform>());
+    auto cli = std::make_unique<CliPlatform>();
+    if (record) cli->queueOpenPath(QString::fromLocal8Bit(argv[3]));
+    installPlatform(std::move(cli));
 
     std::unique_ptr<frmMain> window(Main());
     window->resize(1200, 760);
     int status = 1;
+    if (record) {
+        QTimer::singleShot(300, window.get(), [&] {
+            playRecord(window.get());
+            QTimer::singleShot(700, window.get(),
+                               [&] { QApplication::exit(status = finish(window.get(), path)); });
+        });
+        QApplication::exec();
+        return status;
+    }
     QTimer::singleShot(300, window.get(), [&, analysis] {
         trigger(window.get(), "mnuNewDataSheet");
         addWindows(window.get(), analysis);
