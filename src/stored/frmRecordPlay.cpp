@@ -2,6 +2,7 @@
 #include "stored/frmRecordPlay.h"
 
 #include "stored/rcdfile.h"
+#include "stored/recordplaydraw.h"
 #include "stored/recordslot.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
@@ -81,7 +82,8 @@ void frmRecordPlay::buildControls()
 {
     RecordBackPic = named(new QFrame(this), "RecordBackPic");
     RecordBackPic->setFrameShape(QFrame::StyledPanel);
-    RecordBackPic->setMinimumSize(180, 130);
+    // Below zoom 1 the texts over and under the grid would run into each other.
+    RecordBackPic->setMinimumSize(RecordPictureSize(1.0) + QSize(4, 4));
     RecordBackPic->installEventFilter(this);
     RecordWavePic = named(new WavePicture(RecordBackPic), "RecordWavePic");
     PicMsg = named(new QLabel(this), "PicMsg");
@@ -108,7 +110,12 @@ void frmRecordPlay::buildControls()
     whole->setContentsMargins(4, 4, 4, 4);
     whole->addLayout(left, 1);
     whole->addWidget(buildSidePanel());
-    resize(700, 500);
+    resize(sizeHint());
+}
+
+QSize frmRecordPlay::sizeHint() const
+{
+    return {760, 560};
 }
 
 QWidget* frmRecordPlay::buildBar()
@@ -216,6 +223,7 @@ frmRecordPlay* CreateRecordPlayWindow(QMdiArea* area, int slot)
     if (area) {
         QMdiSubWindow* child = area->addSubWindow(window);
         child->setObjectName(QStringLiteral("RecordPlayChild"));
+        child->resize(child->sizeHint());
         child->show();
     } else {
         window->setAttribute(Qt::WA_DeleteOnClose);

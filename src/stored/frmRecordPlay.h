@@ -29,6 +29,7 @@ class frmRecordPlay : public QWidget, public PrintablePicture {
 
     // The slot number, kept as the tag text.
     int slot() const;
+    QSize sizeHint() const override;
     void SetCaptions(int language);
 
     // Asks for a file and loads it into the slot.

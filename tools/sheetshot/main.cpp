@@ -74,7 +74,6 @@ void playRecord(frmMain* window)
 {
     trigger(window, "mnuNewDataSheet");
     trigger(window, "AddNewRecord");
-    trigger(window, "mnuWindowTileHorizontal");
     for (QMdiSubWindow* sub : window->mdiArea()->subWindowList())
         if (auto* play = sub->findChild<QAbstractButton*>(QStringLiteral("AresBtnPlay_0"))) play->click();
 }
