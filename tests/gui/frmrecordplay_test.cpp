@@ -160,15 +160,6 @@ TEST_F(RecordPlayWindowTest, TimeButtonsStepOnPressAndFasterWhileHeld)
     EXPECT_DOUBLE_EQ(RecordSlots[0].FrameInterval, 0.05);
 }
 
-TEST_F(RecordPlayWindowTest, MonoColorDrawsOnWhite)
-{
-    open(RcdBuilder(2));
-    click("FlatBttn5");
-    EXPECT_EQ(window->picture().pixelColor(2, 2), QColor(Qt::white));
-    click("FlatBttn4");
-    EXPECT_EQ(window->picture().pixelColor(2, 2), QColor(Qt::black));
-}
-
 class RecordSheetTest : public MainWindowTest {};
 
 TEST_F(RecordSheetTest, AddingARecordOpensTheChosenFileInARealWindow)

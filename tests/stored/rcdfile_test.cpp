@@ -6,8 +6,6 @@
 #include "state/programstate.h"
 #include "stored/rcdfile.h"
 #include "stored/recordslot.h"
-#include "text/language.h"
-#include "text/messages.h"
 
 #include <QTemporaryDir>
 #include <functional>
@@ -69,16 +67,6 @@ TEST_P(RcdRefusalTest, RefusedWithTheMessageOfItsCheck)
 
 INSTANTIATE_TEST_SUITE_P(Checks, RcdRefusalTest, ::testing::ValuesIn(Refusals),
                          [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(RcdFileTest, MessagesFollowTheLanguage)
-{
-    EXPECT_EQ(RecordLoadMessage(RecordLoad::BadModel), "File utility fail!");
-    EXPECT_EQ(RecordLoadMessage(RecordLoad::BadMagic), "The file format is error!");
-    EXPECT_EQ(RecordLoadMessage(RecordLoad::InvalidChannel), "The channel's data is invalid!");
-    Language = LanguageChinese;
-    LoadMessages();
-    EXPECT_EQ(RecordLoadMessage(RecordLoad::InvalidChannel), QStringLiteral("通道数据无效！"));
-}
 
 TEST_F(RcdFileTest, FramesAreNumberedFromOneWhateverTheHeaderSays)
 {

@@ -172,14 +172,4 @@ TEST_F(RecordPlayTest, HeldButtonStepCounts)
         EXPECT_EQ(HeldButtonSteps(ticks[i]), steps[i]) << ticks[i];
 }
 
-TEST_F(RecordPlayTest, TheClockRunsAtTheFrameInterval)
-{
-    RecordSlot slot = loaded(5, 1);
-    EXPECT_EQ(FrameClockInterval(slot), 50);
-    slot.FrameInterval = 0.001;
-    EXPECT_EQ(FrameClockInterval(slot), 1);
-    slot.FrameInterval = 60.0;
-    EXPECT_EQ(FrameClockInterval(slot), 60000);
-}
-
 } // namespace
