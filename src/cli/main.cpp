@@ -24,6 +24,7 @@ constexpr Subcommand subcommands[] = {
     {"key", "Press front-panel keys by control name, holding some for a number of ticks.", RunKeyCommand},
     {"wfm", "Load waveform files as the memory wave window does; JSON, CSV, picture or a CSV batch.",
      RunWfmCommand},
+    {"rcd", "Load a record file and write its fields, one frame or every frame as pictures.", RunRcdCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)

@@ -24,3 +24,7 @@ int RunKeyCommand(const QStringList& arguments);
 // Loads a waveform file as the memory wave window does and writes it as JSON,
 // CSV or a picture; with --csv-dir converts many. 0 loaded, 3 refused, 2 usage.
 int RunWfmCommand(const QStringList& arguments);
+// Loads a record file into the first record slot and writes its fields (--json),
+// one frame's picture (--frame K --picture FILE) or every frame (--frames-dir).
+// 0 loaded, 3 refused, 2 on a usage error, 1 when an output can't be written.
+int RunRcdCommand(const QStringList& arguments);

@@ -2,18 +2,15 @@
 
 #include "sheet/frmDataSheetTree.h"
 
+#include "document/sheetstate.h"
 #include "sheet/frmSheetWindows.h"
 #include "sheet/sheetslots.h"
-#include "document/sheetstate.h"
+#include "stored/frmOpenWaveform.h"
+#include "stored/frmRecordPlay.h"
 #include "stored/storedfiledialogs.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
 #include "text/productinfo.h"
-#include "sheet/frmSheetWindows.h"
-#include "sheet/sheetslots.h"
-#include "document/sheetstate.h"
-#include "stored/frmOpenWaveform.h"
-#include "stored/storedfiledialogs.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -79,13 +76,13 @@ void frmDataSheetTree::AddWindow(SheetKind kind)
 }
 
 // A new memory wave or record window goes straight on to its file dialog; a
-// cancel leaves the empty window. The chosen record file is read once its window lands.
+// cancel leaves the empty window.
 void frmDataSheetTree::askForStoredFile(SheetKind kind, int slot)
 {
     if (kind == SheetKind::MemoryWave)
         LoadMemoryWave(slot, true);
     else if (kind == SheetKind::Record)
-        OpenFileDialog(RecordDialogRequest(Language));
+        LoadRecordWindowFile(childrenOf(kind).back().window);
 }
 
 // A window closed by its own frame went through its unload; its node opens it anew.

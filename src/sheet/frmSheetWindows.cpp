@@ -3,6 +3,7 @@
 #include "analysis/frmData.h"
 #include "analysis/frmMeasure.h"
 #include "stored/frmOpenWaveform.h"
+#include "stored/frmRecordPlay.h"
 #include "wave/frmWave.h"
 
 #include <QMdiArea>
@@ -13,8 +14,7 @@ namespace {
 
 constexpr const char* tagProperty = "Tag";
 
-// Record windows start as empty frames of the right name and
-// size until their own windows land.
+// A kind with no window of its own gets an empty frame of the right name and size.
 QMdiSubWindow* makeEmptyWindow(QMdiArea* area, SheetKind kind)
 {
     auto* content = new QWidget;
@@ -35,6 +35,7 @@ QMdiSubWindow* makeWindow(QMdiArea* area, SheetKind kind, int slot)
     case SheetKind::Measure: return frameOf(CreateMeasureWindow(area, slot));
     case SheetKind::Data: return frameOf(CreateDataWindow(area, slot));
     case SheetKind::MemoryWave: return frameOf(CreateMemoryWaveWindow(area, slot));
+    case SheetKind::Record: return frameOf(CreateRecordPlayWindow(area, slot));
     default: return makeEmptyWindow(area, kind);
     }
 }

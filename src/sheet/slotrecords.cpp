@@ -4,6 +4,7 @@
 #include "analysis/datarecord.h"
 #include "analysis/measurerecord.h"
 #include "stored/memorywaveslot.h"
+#include "stored/recordslot.h"
 #include "wave/fftsetting.h"
 
 #include <algorithm>
@@ -45,6 +46,11 @@ void nameMemoryWave(int slot, const QString& name)
     if (inTable<MemoryWaveSlots>(slot)) MemoryWaveSlots[static_cast<size_t>(slot)].Name = name;
 }
 
+void nameRecord(int slot, const QString& name)
+{
+    if (RecordSlot* record = RecordSlotAt(slot)) record->Name = name;
+}
+
 // A wave window's slot is its record and the FFT dialog's placeholder beside it.
 void clearWave(int slot)
 {
@@ -64,13 +70,13 @@ struct SlotTable {
     void (*name)(int slot, const QString& name) = nullptr;
 };
 
-// One row per kind, in SheetKind order; a kind without a table yet has an empty row.
+// One row per kind, in SheetKind order.
 const std::array<SlotTable, SheetKindCount> slotTables{{
-    {clearSlot<MeasureRecords>, shiftDown<MeasureRecords>, nameMeasure}, // Measure
-    {clearSlot<DataRecords>, shiftDown<DataRecords>, nullptr},           // Data
-    {clearWave, shiftWaves, nameWave},                                   // Wave
+    {clearSlot<MeasureRecords>, shiftDown<MeasureRecords>, nameMeasure},      // Measure
+    {clearSlot<DataRecords>, shiftDown<DataRecords>, nullptr},                // Data
+    {clearWave, shiftWaves, nameWave},                                        // Wave
     {clearSlot<MemoryWaveSlots>, shiftDown<MemoryWaveSlots>, nameMemoryWave}, // Memory Wave
-    {},                                                                  // Record
+    {ClearRecordSlot, shiftDown<RecordSlots>, nameRecord},                    // Record
 }};
 
 const SlotTable& tableOf(SheetKind kind)

@@ -9,6 +9,7 @@
 #include "document/sheetstate.h"
 #include "panel/panelstate.h"
 #include "stored/memorywaveslot.h"
+#include "stored/recordslot.h"
 #include "text/language.h"
 #include "wave/fftsetting.h"
 #include "wave/waverefresh.h"
@@ -27,4 +28,5 @@ void ResetProgramState()
     ResetFftPlaceholders();
     ResetPanelState();
     ResetMemoryWaveSlots();
+    ResetRecordSlots();
 }

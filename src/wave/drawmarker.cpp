@@ -57,6 +57,20 @@ void drawChannelLegend(Surface& s, int channel, const QString& scaleText, double
     s.text(at, QStringLiteral("CH%1 ").arg(channel) + scaleText, false);
 }
 
+// The arrow at row y of the unscaled grid, or clipped at the rule's rows.
+void drawMarker(const WaveCanvas& canvas, int channel, double y, double div, const MarkerRule& rule)
+{
+    const double z = canvas.Zoom;
+    if (y >= 200) {
+        drawBelowMarker(canvas.surface, rule.rowWhenBelow, z, channel);
+    } else if (y <= 0) {
+        drawAboveMarker(canvas.surface, rule.rowWhenAbove, z, channel);
+    } else {
+        const double lift = rule.lowered ? RoundToInt16(100 * z).value_or(0) : 0;
+        drawInsideMarker(canvas.surface, y / div, lift, z, channel);
+    }
+}
+
 } // namespace
 
 void DrawChannelMarker(const WaveCanvas& canvas, int channel, const QString& offsetText,
@@ -71,15 +85,12 @@ void DrawChannelMarker(const WaveCanvas& canvas, int channel, const QString& off
     const bool alt = IsAlternation(triggerMode);
     const bool ordered = alt && canvas.PairOrdered;
     const double div = SplitScreenOf(triggerMode, fftDisplayText, s8FFTScreen) ? 2 : 1;
-    const MarkerRule rule = markerRule(channel, alt, ordered, div);
-    const double z = canvas.Zoom;
-    if (y >= 200) {
-        drawBelowMarker(canvas.surface, rule.rowWhenBelow, z, channel);
-    } else if (y <= 0) {
-        drawAboveMarker(canvas.surface, rule.rowWhenAbove, z, channel);
-    } else {
-        const double lift = rule.lowered ? RoundToInt16(100 * z).value_or(0) : 0;
-        drawInsideMarker(canvas.surface, y / div, lift, z, channel);
-    }
-    if (withLegend) drawChannelLegend(canvas.surface, channel, scaleText, z);
+    drawMarker(canvas, channel, y, div, markerRule(channel, alt, ordered, div));
+    if (withLegend) drawChannelLegend(canvas.surface, channel, scaleText, canvas.Zoom);
+}
+
+void DrawChannelMark(const WaveCanvas& canvas, int channel, const QString& offsetText,
+                     const QString& scaleText)
+{
+    DrawChannelMarker(canvas, channel, offsetText, scaleText, QString(), QString(), 1, false);
 }

@@ -42,11 +42,9 @@ void drawTriggerMarker(Surface& s, double p, double z, double triangleTop, doubl
 void DrawTriggerMarker(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
                        bool lowerHalf, bool colorMode)
 {
-    const std::optional<double> p = triggerColumn(timeScaleText, timeOffsetText);
-    if (!p) return;
-    const double lift = lowerHalf ? 100 * canvas.Zoom : 0;
+    if (!triggerColumn(timeScaleText, timeOffsetText)) return;
     canvas.surface.setForeColor(PaletteFor(colorMode).maker);
-    drawTriggerMarker(canvas.surface, *p, canvas.Zoom, lift + 26, lift + 30);
+    DrawTriggerMark(canvas, timeScaleText, timeOffsetText, lowerHalf);
 }
 
 void DrawTimeMarker(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
@@ -63,6 +61,14 @@ void DrawTimeMarker(const WaveCanvas& canvas, const QString& timeScaleText, cons
            true);
     s.setForeColor(colors.timeScale);
     s.text(QPointF(GridMargin + 150 * z, GridMargin + 203 * z), timeScaleText, false);
+}
+
+void DrawTriggerMark(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
+                     bool lowerHalf)
+{
+    const double lift = lowerHalf ? 100 * canvas.Zoom : 0;
+    if (const std::optional<double> p = triggerColumn(timeScaleText, timeOffsetText))
+        drawTriggerMarker(canvas.surface, *p, canvas.Zoom, lift + 26, lift + 30);
 }
 
 void DrawAltTimeMarkers(const WaveCanvas& canvas, const QString& scaleAText, const QString& scaleBText,

@@ -21,6 +21,10 @@ void DrawChannelMarker(const WaveCanvas& canvas, int channel, const QString& off
                        const QString& scaleText, const QString& triggerMode, const QString& fftDisplayText,
                        int8_t s8FFTScreen, bool withLegend = true);
 
+// The marker arrow of channel 1 to 4 alone, on a full screen of one time base.
+void DrawChannelMark(const WaveCanvas& canvas, int channel, const QString& offsetText,
+                     const QString& scaleText);
+
 // One ordinary trace of channel 1 to 4 (samples at index i + 212).
 void DrawChannelTrace(const WaveCanvas& canvas, const WaveArray& wave, int points, int channel,
                       const WaveParameter& parameter, const QString& triggerMode,
@@ -47,6 +51,10 @@ int FftWidth(int s16FFTHorizScale);
 // The T marker of one time base alone, on the upper (or only) or the lower half, in the maker colour.
 void DrawTriggerMarker(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
                        bool lowerHalf, bool colorMode);
+// The T marker alone, in the fore colour in force, on the upper (or only) or the
+// lower half; a zero scale draws none.
+void DrawTriggerMark(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
+                     bool lowerHalf = false);
 // The T marker and time legends of a single time base, and of the two of alternate trigger.
 void DrawTimeMarker(const WaveCanvas& canvas, const QString& timeScaleText, const QString& timeOffsetText,
                     bool colorMode);

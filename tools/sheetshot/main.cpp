@@ -4,6 +4,8 @@
 // of the main window. Used by tools/wave_screenshot.sh against the simulator.
 // With "memory FILE.wfm": a memory wave window opened on the file, cursors on
 // (tools/memory_screenshot.sh).
+// With "record FILE.rcd" it opens one record window on the file instead and
+// takes the picture mid-play (tools/record_screenshot.sh).
 #include "analysis/frmPassFailed.h"
 #include "analysis/measurerecord.h"
 #include "controller/ctrlstate.h"
@@ -82,6 +84,15 @@ void showMemoryWave(frmMain* window, const QString& file)
     }
 }
 
+// A record window on the file, playing: the picture is taken a few frames in.
+void playRecord(frmMain* window)
+{
+    trigger(window, "mnuNewDataSheet");
+    trigger(window, "AddNewRecord");
+    for (QMdiSubWindow* sub : window->mdiArea()->subWindowList())
+        if (auto* play = sub->findChild<QAbstractButton*>(QStringLiteral("AresBtnPlay_0"))) play->click();
+}
+
 int finish(frmMain* window, const QString& path)
 {
     const bool saved = window->grab().save(path);
@@ -101,17 +112,25 @@ int main(int argc, char** argv)
     }
     const QString path = QString::fromLocal8Bit(argv[1]);
     const bool analysis = argc > 2 && QByteArray(argv[2]) == "analysis";
-    const QString memoryFile = argc > 3 && QByteArray(argv[2]) == "memory" ? QString::fromLocal8Bit(argv[3]) : QString();
+    const QString memoryFile =
+        argc > 3 && QByteArray(argv[2]) == "memory" ? QString::fromLocal8Bit(argv[3]) : QString();
+    const bool record = argc > 3 && QByteArray(argv[2]) == "record";
     // Boxes go to stderr and take their default answer: nobody is there to click.
-    installPlatform(std::make_unique<CliPlatform>());
+    auto cli = std::make_unique<CliPlatform>();
+    if (record) cli->queueOpenPath(QString::fromLocal8Bit(argv[3]));
+    installPlatform(std::move(cli));
 
     std::unique_ptr<frmMain> window(Main());
     window->resize(1200, 760);
     int status = 1;
-    if (!memoryFile.isEmpty()) {
+    if (!memoryFile.isEmpty() || record) {
         QTimer::singleShot(300, window.get(), [&] {
-            showMemoryWave(window.get(), memoryFile);
-            QTimer::singleShot(500, window.get(), [&] { QApplication::exit(status = finish(window.get(), path)); });
+            if (record)
+                playRecord(window.get());
+            else
+                showMemoryWave(window.get(), memoryFile);
+            QTimer::singleShot(record ? 700 : 500, window.get(),
+                               [&] { QApplication::exit(status = finish(window.get(), path)); });
         });
         QApplication::exec();
         return status;

@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# A picture of a record window mid-play: the simulator writes a record file with
+# a second block, the program opens it in a new data sheet and starts replaying,
+# under a virtual X server with a fresh settings store.
+#   tools/record_screenshot.sh OUT.png [BUILD_DIR]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+out="$(realpath -m "${1:?usage: tools/record_screenshot.sh OUT.png [BUILD_DIR]}")"
+build="${2:-build}"
+for p in "$build/tools/selvane-sheetshot" "$build/sim/kv7200b-sim"; do
+    [ -x "$p" ] || { echo "no program at $p; build first" >&2; exit 1; }
+done
+command -v xvfb-run >/dev/null || { echo "xvfb-run is missing (apt-get install xvfb xauth)" >&2; exit 1; }
+
+work="$(mktemp -d)"
+trap 'rm -rf "$work"' EXIT
+"$build/sim/kv7200b-sim" write-rcd "$work/record.rcd" --frames 200 --second-block
+XDG_CONFIG_HOME="$work" xvfb-run -a -s "-screen 0 1280x800x24" \
+    "$build/tools/selvane-sheetshot" "$out" record "$work/record.rcd"
