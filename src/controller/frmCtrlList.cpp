@@ -7,6 +7,7 @@
 #include "controller/ctrlstate.h"
 #include "controller/ctrltree.h"
 #include "controller/download.h"
+#include "controller/upload.h"
 #include "link/linkstate.h"
 #include "platform/platform.h"
 #include "text/captionwidgets.h"
@@ -285,10 +286,21 @@ void frmCtrlList::cmdDownload_Click()
     AfterDownload();
 }
 
-// Sending the record to the instrument arrives with the upload.
 void frmCtrlList::cmdUpload_Click()
 {
-    if (!Connected) MsgBox(MsgConnectFirst, vbExclamation);
+    if (!Connected) {
+        MsgBox(MsgConnectFirst, vbExclamation);
+        return;
+    }
+    if (OperationRunning) return;
+    BeforeUpload();
+    UploadToDSO();
+}
+
+void frmCtrlList::UploadToDSO()
+{
+    InstallUploadOperation();
+    frmPrgress::RunReading(OperationUpload, CtrlText(u"Data Uploading...", u"数据上传中..."), this);
 }
 
 void frmCtrlList::resizeEvent(QResizeEvent* event)

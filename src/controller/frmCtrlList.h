@@ -44,6 +44,8 @@ class frmCtrlList : public QWidget {
     void OpenCtrl(const QString& path);
     void cmdDownload_Click();
     void cmdUpload_Click();
+    // Sends the whole record through the progress window and waits for its end.
+    void UploadToDSO();
 
   Q_SIGNALS:
     void ctrlFileNamed(const QString& path); // for the recent list
