@@ -77,6 +77,7 @@ frmCtrlList::frmCtrlList(QWidget* parent) : QWidget(parent)
     connect(CtrlTreeView, &QTreeWidget::itemDoubleClicked, this, [this] { openSelectedNode(); });
     connect(CtrlTreeView, &QTreeWidget::itemActivated, this, [this] { openSelectedNode(); });
     createMenu();
+    connect(this, &frmCtrlList::nodeOpened, this, &frmCtrlList::PraseCtrlList);
     connect(CtrlTreeView, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& at) { popmenu1->popup(CtrlTreeView->viewport()->mapToGlobal(at)); });
     connect(&CtrlNotifier(), &CtrlEvents::recordChanged, this, [this] {
@@ -281,9 +282,7 @@ void frmCtrlList::cmdDownload_Click()
         return;
     }
     if (OperationRunning) return;
-    InstallDownloadOperation();
-    frmPrgress::RunReading(OperationDownload, CtrlText(u"Data Downloading...", u"数据下载中..."), this);
-    AfterDownload();
+    runDownload();
 }
 
 void frmCtrlList::cmdUpload_Click()
