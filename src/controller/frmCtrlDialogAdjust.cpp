@@ -133,6 +133,8 @@ void CtrlDialogAdjust::Timer1_Timer()
 
 void CtrlDialogAdjust::OptVoltDiv_Click(int index)
 {
+    if (index < 0 || index > 1) return;
+    OptVoltDiv[index]->setChecked(true);
     ChAdjustMode[size_t(AdjustChannel % 4)] = index == 1;
 }
 
