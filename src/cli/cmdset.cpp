@@ -4,7 +4,7 @@
 #include "acquire/operation.h"
 #include "controller/ctrlstate.h"
 #include "controller/download.h"
-#include "controller/editor.h"
+#include "controller/editfields.h"
 #include "controller/fineadjust.h"
 #include "link/timeouttimer.h"
 #include "text/messages.h"
@@ -30,7 +30,8 @@ bool applyPlanned(const EditTarget& target, const EditPlan& plan, const QString&
     case EditShape::Adjust: CtrlDialogAdjustOK(target.channel - 1, value); return true;
     case EditShape::Pattern:
         return target.input >= 0 && ApplyEdit(target, value).outcome == EditOutcome::Stored;
-    case EditShape::None: return target.known; // an action ran, or a message told why not
+    // An action ran; a node with a value that opens nothing refuses ("Memory Size").
+    case EditShape::None: return target.known && !EditField(target);
     case EditShape::Virtual: return false;
     }
     return false;

@@ -22,10 +22,13 @@ constexpr int SamplingPauseMs = 50;
 constexpr float OffsetLimit = 400000;
 constexpr float TimeLimit = 1e20f;
 
-// Compared in single precision, as the instrument's own limits are.
-float clamped(const QString& text, float limit)
+// Compared with the limit in single precision; a value within it is kept whole.
+double clamped(const QString& text, float limit)
 {
-    return std::clamp(float(Val(text)), -limit, limit);
+    const double value = Val(text);
+    if (float(value) > limit) return limit;
+    if (float(value) < -limit) return -limit;
+    return value;
 }
 
 EditResult applyChannel(const EditTarget& t, const QString& value)
@@ -39,7 +42,7 @@ EditResult applyChannel(const EditTarget& t, const QString& value)
             MsgBox(MsgNumberOnly, vbExclamation);
             return {EditOutcome::Stays};
         }
-        WriteCmd(head + "OFFSET " + GeneralFormat(double(clamped(value, OffsetLimit))));
+        WriteCmd(head + "OFFSET " + GeneralFormat(clamped(value, OffsetLimit)));
         Sleep(ReadBackPauseMs);
         r.ChOffset[n] = VoltText3(AskReply(head + "OFFSET?"));
         return {};
@@ -175,7 +178,7 @@ bool EditTimeNumber(const QString& value, double& seconds)
         MsgBox(MsgNumberOnly, vbExclamation);
         return false;
     }
-    seconds = double(clamped(value, TimeLimit));
+    seconds = clamped(value, TimeLimit);
     return true;
 }
 

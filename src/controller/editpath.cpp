@@ -65,8 +65,8 @@ EditTarget ParseEditPath(const QString& fullPath)
     t.item = item ? item->english : unshownItem(itemCaption);
     t.caption = itemCaption;
     const bool altNode = t.group == QLatin1String("Trigger") && item && item->english == item->caption &&
-                         IsValueWord(CtrlData.TrigMethod, QStringLiteral("ALTERNATIVE")) && index >= 1;
-    if (altNode) t.altWindow = index - 1;
+                         IsValueWord(CtrlData.TrigMethod, QStringLiteral("ALTERNATIVE")) && index >= 2;
+    if (altNode) t.altWindow = index - 2; // after "Method" and "Alt Channel"
     if (t.item == QLatin1String("WindowA") || t.item == QLatin1String("WindowB"))
         t.altWindow = t.item.endsWith(QLatin1Char('A')) ? 0 : 1;
     // The alternate windows are told apart as CH1 and CH2, whichever channels they are.
