@@ -2,6 +2,7 @@
 #include "cli/subcommands.h"
 
 #include "acquire/operation.h"
+#include "controller/ctrlcommands.h"
 #include "controller/ctrlstate.h"
 #include "controller/download.h"
 #include "controller/editfields.h"
@@ -71,6 +72,11 @@ int RunSetCommand(const QStringList& arguments)
     const EditTarget target = ParseEditPath(path);
     if (!target.known) {
         std::fprintf(stderr, "set: no node %s\n", qPrintable(positional[0]));
+        CloseLink();
+        return ExitRefused;
+    }
+    if (const int rule = EditRule(target); rule >= 0) {
+        std::fprintf(stderr, "%s\n", qPrintable(RuleMessage(rule)));
         CloseLink();
         return ExitRefused;
     }

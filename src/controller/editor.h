@@ -23,6 +23,10 @@ EditTarget ParseEditPath(const QString& fullPath);
 // The text of the node a full path names in the present layout; empty when there is none.
 QString NodeTextAt(const QString& fullPath);
 
+// The rule a node must pass before it opens, read from the Format node as the tree
+// shows it: -1 when it may open, else the message code (1 trigger, 2 horizontal, 0 other).
+int EditRule(const EditTarget& target);
+
 enum class EditShape {
     None,    // nothing to open: an action ran, a message was shown or the click is ignored
     List,    // Combo with items

@@ -99,3 +99,36 @@ QString NodeTextAt(const QString& fullPath)
         node = childNamed(*node, captionOf(parts[i]));
     return node ? node->text : QString();
 }
+
+namespace {
+
+// The Format node's text compared in both languages; an ALTERNATIVE layout has no such node.
+bool formatNodeIs(const char* format)
+{
+    const CtrlNode root = BuildCtrlTree();
+    for (const CtrlNode& group : root.children)
+        if (group.column == GroupTimeBase)
+            for (const CtrlNode& node : group.children)
+                if (node.english == QLatin1String("Format"))
+                    for (int language : {LanguageEnglish, LanguageChinese})
+                        if (node.text == NodeText(NodeCaption(node.english, language), QLatin1String(format)))
+                            return true;
+    return false;
+}
+
+} // namespace
+
+int EditRule(const EditTarget& t)
+{
+    const bool yt = formatNodeIs("Y-T");
+    const bool notXy = !formatNodeIs("X-Y");
+    const bool needsYT = t.group == QLatin1String("Trigger") || t.item == QLatin1String("Set Trig to 50%") ||
+                         t.item == QLatin1String("Force Trigger") ||
+                         t.item == QLatin1String("Single Trigger");
+    if (needsYT && !yt) return 1;
+    const bool plainTime = t.group == QLatin1String("Time Base") && t.altWindow < 0 &&
+                           (t.item == QLatin1String("Time/Div") || t.item == QLatin1String("Delay"));
+    if (plainTime && !notXy) return 2;
+    if ((t.channel == 3 || t.channel == 4) && !notXy) return 0;
+    return -1;
+}

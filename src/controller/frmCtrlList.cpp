@@ -7,6 +7,7 @@
 #include "controller/ctrlstate.h"
 #include "controller/ctrltree.h"
 #include "controller/download.h"
+#include "controller/editor.h"
 #include "controller/upload.h"
 #include "link/linkstate.h"
 #include "platform/platform.h"
@@ -190,18 +191,7 @@ int frmCtrlList::NodeRule(const QTreeWidgetItem* item) const
 {
     const QTreeWidgetItem* group = groupOf(item);
     if (!group || group == item) return -1;
-    const QString english = item->data(0, Qt::UserRole).toString();
-    const QString groupName = group->data(0, Qt::UserRole).toString();
-    const bool needsYT =
-        groupName == QLatin1String("Trigger") || english == QLatin1String("Set Trig to 50%") ||
-        english == QLatin1String("Force Trigger") || english == QLatin1String("Single Trigger");
-    if (needsYT && !FormatIsYT()) return 1;
-    const bool plainTime = item->parent() == group && groupName == QLatin1String("Time Base") &&
-                           (english == QLatin1String("Time/Div") || english == QLatin1String("Delay"));
-    if (plainTime && !FormatIsNotXY()) return 2;
-    if (groupName == QLatin1String("CH3") && !Ch3Allowed()) return 0;
-    if (groupName == QLatin1String("CH4") && !Ch4Allowed()) return 0;
-    return -1;
+    return EditRule(ParseEditPath(pathOf(item)));
 }
 
 void frmCtrlList::openSelectedNode()
