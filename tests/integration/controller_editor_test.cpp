@@ -148,6 +148,35 @@ TEST_F(EditorTest, PatternCodesAndListsOfTheRarerItems)
     EXPECT_TRUE(link->loggedCommands().contains(":TIMEBASE:FORMAT?"));
 }
 
+TEST_F(EditorTest, ActionsWithoutADialog)
+{
+    const auto act = [this](const char* path) {
+        const qsizetype before = link->loggedCommands().size();
+        EXPECT_EQ(PlanEdit(target(QString::fromUtf8(path))).shape, EditShape::None) << path;
+        send("*IDN?");
+        QStringList commands = link->loggedCommands().mid(before);
+        commands.removeAll("*IDN?");
+        return commands.join(' ').toStdString();
+    };
+    EXPECT_EQ(act("Running Control\\Force Trigger"), ":FORCETRIG");
+    EXPECT_EQ(act("Running Control\\Single Trigger"), ":KEY:SINGLE");
+    EXPECT_EQ(act("Display\\Clear"), ":DISPLAY:CLEAR");
+    CtrlData.EdgeLevel.clear();
+    EXPECT_EQ(act("Running Control\\Set Trig to 50%"),
+              ":TRIG%50 :TRIGGER:EDGE:SOURCE? :CHANNEL1:SCALE? :TRIGGER:EDGE:LEVEL?");
+    EXPECT_TRUE(CtrlData.EdgeLevel.endsWith("div")) << CtrlData.EdgeLevel.toStdString();
+
+    // Default: the reset, its pause, then a download that leaves the record unsaved.
+    CtrlData.TimeDiv = QStringLiteral("stale");
+    CtrlDirty = false;
+    platform->sleeps.clear();
+    const std::string reset = act("Running Control\\Default");
+    EXPECT_EQ(reset.substr(0, 22), "*RST :TRIGGER:STATUS? ");
+    EXPECT_TRUE(platform->sleeps.contains(2000));
+    EXPECT_EQ(CtrlData.TimeDiv, "500.0us");
+    EXPECT_TRUE(CtrlDirty);
+}
+
 TEST_F(EditorTest, DialogKeysAndALostLink)
 {
     CtrlDialog dialog;

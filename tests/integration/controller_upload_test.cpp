@@ -144,6 +144,8 @@ TEST_F(UploadTest, DownloadAfterUploadGivesBackWhatTheInstrumentKeeps)
     r.TrigMethod = ValueWord("PULSE");
     r.PulseMode = ValueWord("-Greater Than");
     r.PulseWidth = QStringLiteral("2.00us");
+    r.PulseLevel = QStringLiteral("1.00div"); // sent as ":TRIGGERPULSE:LEVEL 10" against CH1's 10 V
+    r.PulseSensitivity = QStringLiteral("0.30div");
     r.Holdoff = QStringLiteral("1.00ms");
     r.AcqType = ValueWord("AVERAGE");
     r.AcqAverages = QStringLiteral("64");
