@@ -78,7 +78,10 @@ void frmCtrlList::PraseCtrlList(const QString& fullPath)
         PatternCodes codes{};
         std::copy(std::begin(CtrlData.PatternEdge), std::end(CtrlData.PatternEdge), codes.begin());
         dialog.PresetPattern(codes, CtrlData.PatternExtIsDiv5);
-        if (dialog.exec() == QDialog::Accepted) CtrlDirty = true;
+        if (dialog.exec() == QDialog::Accepted) {
+            FillPatternCodes();
+            CtrlDirty = true;
+        }
         break;
     }
     case EditShape::Virtual: OpenVirtualNode(target.group); return;
