@@ -51,7 +51,9 @@ EditResult applyChannel(const EditTarget& t, const QString& value)
         CtrlDialogAdjustOK(n - 1, value);
         return {};
     }
-    *EditField(t) = value;
+    QString* field = EditField(t);
+    if (!field) return {};
+    *field = value;
     if (item == QLatin1String("Display")) {
         WriteCmd(head + "DISPLAY " + OnOffToWire(value));
         Sleep(ReadBackPauseMs);

@@ -23,6 +23,12 @@ namespace {
 
 constexpr int ActionPauseMs = 2000;
 
+QString fieldText(const EditTarget& t)
+{
+    const QString* field = EditField(t);
+    return field ? *field : QString();
+}
+
 QStringList words(std::initializer_list<const char*> english, WordSense sense = WordSense::Plain)
 {
     QStringList list;
@@ -152,7 +158,7 @@ EditPlan planTimeBase(const EditTarget& t)
     if (item == QLatin1String("Time/Div"))
         return {EditShape::List, t.caption, SetCtrlDialogTimeDivNum(BandwidthClass), {}, false};
     if (item == QLatin1String("Delay"))
-        return {EditShape::Number, t.caption, {}, TimeTextToExponent(*EditField(t)), false};
+        return {EditShape::Number, t.caption, {}, TimeTextToExponent(fieldText(t)), false};
     if (item == QLatin1String("Format"))
         return {EditShape::List, t.caption, plain({"Y-T", "X-Y", "Roll"}), {}, false};
     return {};
@@ -184,7 +190,7 @@ EditPlan planTrigger(const EditTarget& t)
     if (item == QLatin1String("Sensitivity")) return list(SetCtrlDialogTrigSensitivityNum());
     if (item == QLatin1String("Holdoff") || item == QLatin1String("Pulse width") ||
         item == QLatin1String("Slope time"))
-        return number(*EditField(t));
+        return number(fieldText(t));
     if (item == QLatin1String("Slope"))
         return list(t.altWindow >= 0 ? words({"RISING", "FALLING"})
                                      : words({"RISING", "FALLING", "ALTERNATION"}));
@@ -267,7 +273,6 @@ EditPlan PlanEdit(const EditTarget& t)
         plan = planDisplay(t);
     else if (t.group == QLatin1String("Virtual Panel") || t.group == QLatin1String("Virtual Keyboard"))
         plan.shape = EditShape::Virtual;
-    if (plan.shape == EditShape::List && !plan.editable)
-        if (const QString* field = EditField(t)) plan.value = *field;
+    if (plan.shape == EditShape::List && !plan.editable) plan.value = fieldText(t);
     return plan;
 }
