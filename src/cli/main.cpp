@@ -18,6 +18,8 @@ constexpr Subcommand subcommands[] = {
     {"wave", "Read one wave window snapshot and write its picture.", RunWaveCommand},
     {"table", "Read one channel as a data table and write its export text.", RunTableCommand},
     {"download", "Read every setting of the instrument and write a control file.", RunDownloadCommand},
+    {"upload", "Send every setting of a control file to the instrument.", RunUploadCommand},
+    {"set", "Change one setting by its tree path and print the node's new text.", RunSetCommand},
     {"measure", "Read one channel's measurements, judge them against limits and write the export.",
      RunMeasureCommand},
     {"screen", "Read the instrument's screen picture and write it.", RunScreenCommand},

@@ -13,6 +13,12 @@ int RunWaveCommand(const QStringList& arguments);
 int RunTableCommand(const QStringList& arguments);
 // Reads every setting of the instrument and writes a control file (--out FILE.rmt).
 int RunDownloadCommand(const QStringList& arguments);
+// Sends a control file's settings to the instrument (--in FILE.rmt): 0 when sent,
+// 3 when the file is refused, 2 on a usage or link error.
+int RunUploadCommand(const QStringList& arguments);
+// Changes one setting by its tree path as the value editor does and prints the
+// node's new text: 0 when done, 3 when the node refuses, 2 on a usage or link error.
+int RunSetCommand(const QStringList& arguments);
 // Reads one channel's eighteen measurements, judges the limited ones and writes
 // the export (--out FILE.txt). 0 when every limited item passes, 1 when one
 // fails, 2 on a usage, link or file error.

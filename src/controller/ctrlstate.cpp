@@ -1,4 +1,5 @@
 #include "controller/ctrlstate.h"
+#include "controller/fineadjust.h"
 
 #include "link/devicefacts.h"
 #include "text/treewords.h"
@@ -124,6 +125,14 @@ void ResetCtrlState()
     CtrlData = NewCtrlRecord(Language);
     CtrlFileName.clear();
     CtrlDirty = false;
+    ChAdjustMode = {};
+}
+
+void ClearInvertsAndSpare()
+{
+    const QString off = ValueWord(QStringLiteral("OFF"));
+    CtrlData.ChInvert[1] = CtrlData.ChInvert[2] = off;
+    CtrlData.SpareTime = off;
 }
 
 void InstallTreeDisplaySwitches()

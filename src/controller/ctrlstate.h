@@ -66,5 +66,9 @@ CtrlRecord NewCtrlRecord(int language);
 // CtrlData to the New defaults in the language in force; no file, nothing unsaved.
 void ResetCtrlState();
 
+// The first two inverts and the spare before the time format OFF, as the
+// instrument has no such settings to keep them.
+void ClearInvertsAndSpare();
+
 // Lets the wave windows follow the tree's display switches (math from the link).
 void InstallTreeDisplaySwitches();

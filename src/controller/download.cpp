@@ -90,26 +90,34 @@ void downloadChannels()
     }
 }
 
-void downloadPlainTriggers(QString& scale)
+void downloadEdge(QString& scale)
 {
     CtrlRecord& r = CtrlData;
-    askTicked(":TRIGGER:MODE?", r.TrigMethod, inLanguage<TriggerTypeFromReply>);
-    askTicked(":TRIGGER:HOLDOFF?", r.Holdoff, TimeText3);
     askTicked(":TRIGGER:EDGE:SOURCE?", r.EdgeSource, inLanguage<TriggerSourceFromReply>);
-    bool hasScale = askSourceScale(r.EdgeSource, scale);
+    const bool hasScale = askSourceScale(r.EdgeSource, scale);
     askTicked(":TRIGGER:EDGE:SLOPE?", r.EdgeSlope, inLanguage<EdgeSlopeFromReply>);
     askTicked(":TRIGGER:EDGE:SWEEP?", r.EdgeSweep, inLanguage<SweepFromReply>);
     askTicked(":TRIGGER:COUPLING?", r.EdgeCoupling, inLanguage<CouplingFromReply>);
     askLevel(":TRIGGER:EDGE:LEVEL?", hasScale, scale, r.EdgeLevel);
     askTicked(":TRIGGER:SENSITIVITY?", r.EdgeSensitivity, sensitivityText);
+}
+
+void downloadPulse(QString& scale)
+{
+    CtrlRecord& r = CtrlData;
     askTicked(":TRIGGER:PULSE:SOURCE?", r.PulseSource, asIs);
-    hasScale = askSourceScale(r.PulseSource, scale);
+    const bool hasScale = askSourceScale(r.PulseSource, scale);
     askTicked(":TRIGGER:PULSE:MODE?", r.PulseMode, inLanguage<PulseModeFromReply>);
     askTicked(":TRIGGER:PULSE:WIDTH?", r.PulseWidth, TimeText3);
     askTicked(":TRIGGER:PULSE:SWEEP?", r.PulseSweep, inLanguage<SweepFromReply>);
     askTicked(":TRIGGER:COUPLING?", r.PulseCoupling, inLanguage<CouplingFromReply>);
     askLevel(":TRIGGER:PULSE:LEVEL?", hasScale, scale, r.PulseLevel);
     askTicked(":TRIGGER:SENSITIVITY?", r.PulseSensitivity, sensitivityText);
+}
+
+void downloadVideo(QString& scale)
+{
+    CtrlRecord& r = CtrlData;
     askTicked(":TRIGGER:VIDEO:SOURCE?", r.VideoSource, asIs);
     askSourceScale(r.VideoSource, scale);
     askTicked(":TRIGGER:VIDEO:POLARITY?", r.VideoPolarity, inLanguage<VideoPolarityFromReply>);
@@ -119,6 +127,16 @@ void downloadPlainTriggers(QString& scale)
     r.VideoLevel = LevelDivText(ask(":TRIGGER:VIDEO:LEVEL?"), scale);
     tick();
     askTicked(":TRIGGER:SENSITIVITY?", r.VideoSensitivity, sensitivityText);
+}
+
+void downloadPlainTriggers(QString& scale)
+{
+    CtrlRecord& r = CtrlData;
+    askTicked(":TRIGGER:MODE?", r.TrigMethod, inLanguage<TriggerTypeFromReply>);
+    askTicked(":TRIGGER:HOLDOFF?", r.Holdoff, TimeText3);
+    downloadEdge(scale);
+    downloadPulse(scale);
+    downloadVideo(scale);
 }
 
 void askAlt(const char* query, QString& field, const QString& scale, bool isLevel,
@@ -212,6 +230,17 @@ void downloadPattern()
     r.PatternSensitivity = sensitivityText(ask(":TRIGGER:SENSITIVITY?"));
 }
 
+void altWindowAgain(int w)
+{
+    CtrlRecord& r = CtrlData;
+    // The sources are held as "CH1" and their scale is asked as "CHANNEL1".
+    const QString source = w == 0 ? r.AltSourceA : r.AltSourceB;
+    QString scale;
+    askSourceScale(QStringLiteral("CHANNEL") + source.mid(2), scale);
+    currentAltSource(w == 0 ? "A" : "B");
+    downloadAltWindow(w, w == 0 ? r.AltTypeA : r.AltTypeB, scale);
+}
+
 void downloadAcquireDisplay()
 {
     CtrlRecord& r = CtrlData;
@@ -249,6 +278,30 @@ bool DownloadTransfer()
     return true;
 }
 
+void GetTriggerMethod()
+{
+    QString scale;
+    const QString type = TriggerTypeToWire(CtrlData.TrigMethod);
+    if (type == QLatin1String("EDGE"))
+        downloadEdge(scale);
+    else if (type == QLatin1String("PULSE"))
+        downloadPulse(scale);
+    else if (type == QLatin1String("VIDEO"))
+        downloadVideo(scale);
+    else if (type == QLatin1String("PATTERN"))
+        downloadPattern();
+}
+
+void GetTriggerAltTrigType(int channel)
+{
+    if (channel == 0 || channel == 1) altWindowAgain(channel);
+}
+
+void GetTimeBaseParameter()
+{
+    CtrlData.TimeDelay = TimeText5(ask(":TIMEBASE:OFFSET?"));
+}
+
 void InstallDownloadOperation()
 {
     SetOperationRoutine(OperationDownload, DownloadTransfer);
@@ -256,8 +309,6 @@ void InstallDownloadOperation()
 
 void AfterDownload()
 {
-    const QString off = ValueWord(QStringLiteral("OFF"));
-    CtrlData.ChInvert[1] = CtrlData.ChInvert[2] = off;
-    CtrlData.SpareTime = off;
+    ClearInvertsAndSpare();
     CtrlDirty = true;
 }

@@ -7,6 +7,8 @@
 #include "controller/ctrlstate.h"
 #include "controller/ctrltree.h"
 #include "controller/download.h"
+#include "controller/editor.h"
+#include "controller/upload.h"
 #include "link/linkstate.h"
 #include "platform/platform.h"
 #include "text/captionwidgets.h"
@@ -76,6 +78,7 @@ frmCtrlList::frmCtrlList(QWidget* parent) : QWidget(parent)
     connect(CtrlTreeView, &QTreeWidget::itemDoubleClicked, this, [this] { openSelectedNode(); });
     connect(CtrlTreeView, &QTreeWidget::itemActivated, this, [this] { openSelectedNode(); });
     createMenu();
+    connect(this, &frmCtrlList::nodeOpened, this, &frmCtrlList::PraseCtrlList);
     connect(CtrlTreeView, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& at) { popmenu1->popup(CtrlTreeView->viewport()->mapToGlobal(at)); });
     connect(&CtrlNotifier(), &CtrlEvents::recordChanged, this, [this] {
@@ -188,18 +191,7 @@ int frmCtrlList::NodeRule(const QTreeWidgetItem* item) const
 {
     const QTreeWidgetItem* group = groupOf(item);
     if (!group || group == item) return -1;
-    const QString english = item->data(0, Qt::UserRole).toString();
-    const QString groupName = group->data(0, Qt::UserRole).toString();
-    const bool needsYT =
-        groupName == QLatin1String("Trigger") || english == QLatin1String("Set Trig to 50%") ||
-        english == QLatin1String("Force Trigger") || english == QLatin1String("Single Trigger");
-    if (needsYT && !FormatIsYT()) return 1;
-    const bool plainTime = item->parent() == group && groupName == QLatin1String("Time Base") &&
-                           (english == QLatin1String("Time/Div") || english == QLatin1String("Delay"));
-    if (plainTime && !FormatIsNotXY()) return 2;
-    if (groupName == QLatin1String("CH3") && !Ch3Allowed()) return 0;
-    if (groupName == QLatin1String("CH4") && !Ch4Allowed()) return 0;
-    return -1;
+    return EditRule(ParseEditPath(pathOf(item)));
 }
 
 void frmCtrlList::openSelectedNode()
@@ -280,15 +272,24 @@ void frmCtrlList::cmdDownload_Click()
         return;
     }
     if (OperationRunning) return;
-    InstallDownloadOperation();
-    frmPrgress::RunReading(OperationDownload, CtrlText(u"Data Downloading...", u"数据下载中..."), this);
-    AfterDownload();
+    runDownload();
 }
 
-// Sending the record to the instrument arrives with the upload.
 void frmCtrlList::cmdUpload_Click()
 {
-    if (!Connected) MsgBox(MsgConnectFirst, vbExclamation);
+    if (!Connected) {
+        MsgBox(MsgConnectFirst, vbExclamation);
+        return;
+    }
+    if (OperationRunning) return;
+    BeforeUpload();
+    UploadToDSO();
+}
+
+void frmCtrlList::UploadToDSO()
+{
+    InstallUploadOperation();
+    frmPrgress::RunReading(OperationUpload, CtrlText(u"Data Uploading...", u"数据上传中..."), this);
 }
 
 void frmCtrlList::resizeEvent(QResizeEvent* event)

@@ -25,6 +25,12 @@ class frmCtrlList : public QWidget {
     void SaveTreeExpansion();
     void RestoreTreeExpansion();
     void SetNodeText(int row, int group, const QString& caption, const QString& value);
+    // Every node's text from CtrlData; a rebuild keeping the expansion when the layout changed.
+    void SyncNodeTexts();
+    // The value editor on a node's full path: its dialog, its action or its message.
+    void PraseCtrlList(const QString& fullPath);
+    // The "Virtual ..." nodes' windows.
+    void OpenVirtualNode(const QString& group);
     QTreeWidgetItem* node(int row, int group) const { return NodeTable[size_t(row)][size_t(group)]; }
     QTreeWidget* tree() const { return CtrlTreeView; }
 
@@ -44,6 +50,8 @@ class frmCtrlList : public QWidget {
     void OpenCtrl(const QString& path);
     void cmdDownload_Click();
     void cmdUpload_Click();
+    // Sends the whole record through the progress window and waits for its end.
+    void UploadToDSO();
 
   Q_SIGNALS:
     void ctrlFileNamed(const QString& path); // for the recent list
@@ -59,6 +67,7 @@ class frmCtrlList : public QWidget {
     void addItems(QTreeWidgetItem* parent, const CtrlNode& node);
     void createMenu();
     void openSelectedNode();
+    void runDownload();
     bool openPathChecked(const QString& path);
 
     QPushButton* cmdUpload = nullptr;

@@ -115,6 +115,11 @@ void ParsePatternString(const QString& reply)
         if (i == edgeInput && edgeCode != CodeX) code = int16_t(edgeCode);
         CtrlData.PatternEdge[i] = code;
     }
+    FillPatternCodes();
+}
+
+void FillPatternCodes()
+{
     for (int i = 0; i < 4; ++i)
         CtrlData.PatternCode[i] = PatternCodeText(CtrlData.PatternEdge[i], Language);
     const QString ext = PatternCodeText(CtrlData.PatternEdge[4], Language), none = ValueWord("X");

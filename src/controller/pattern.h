@@ -22,6 +22,8 @@ QString BuildPatternDispString();
 QString PatternCodeText(int code, int language);
 // A reply into PatternEdge, PatternExtIsDiv5 and PatternCode; empty changes nothing.
 void ParsePatternString(const QString& reply);
+// The six rows of PatternCode from PatternEdge and PatternExtIsDiv5.
+void FillPatternCodes();
 // Sends and returns the command for an edit of PatternCode row changedRow (0 to 3 channels, 4 EXT,
 // 5 EXT/5); a new edge clears every other edge row first.
 QString BuildPatternCommand(int changedRow);

@@ -98,3 +98,13 @@ QStringList SetCtrlDialogMemOffsetNum(const QString& sizeReply)
         steps << QString::number(i);
     return steps;
 }
+
+QStringList SetCtrlDialogTimeDivNum(int bandwidthClass)
+{
+    return SetCtrlDialogTimeDivNum(AskInstrument(QStringLiteral(":TIMEBASE:FORMAT?")), bandwidthClass);
+}
+
+QStringList SetCtrlDialogMemOffsetNum()
+{
+    return SetCtrlDialogMemOffsetNum(AskInstrument(QStringLiteral(":WAVEFORM:SYSMEMSIZE?")));
+}

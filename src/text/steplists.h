@@ -16,6 +16,8 @@ int BandwidthClassOf(int modelDigits);
 // Time/Div steps for the reply to ":TIMEBASE:FORMAT?" (the caller asks it): from
 // the class's lowest step up to "20.00s", and on to "50.00s" for "X-Y" and "ROLL".
 QStringList SetCtrlDialogTimeDivNum(const QString& formatReply, int bandwidthClass);
+// The same for the format the instrument answers now (asked through AskInstrument).
+QStringList SetCtrlDialogTimeDivNum(int bandwidthClass);
 // Volt/Div steps for a probe text "1X", "10X", "100X" or "1000X"; empty for others.
 QStringList SetCtrlDialogVoltDivNum(const QString& probe);
 // "6.00div" down to "-6.00div" by 0.04: 301 steps.
@@ -26,3 +28,5 @@ QStringList SetCtrlDialogTrigSensitivityNum();
 // A size beyond MemOffsetLimit is cut there, so a wild reply cannot exhaust memory.
 QStringList SetCtrlDialogMemOffsetNum(const QString& sizeReply);
 inline constexpr int MemOffsetLimit = 1 << 20;
+// The same for the size the instrument answers now (asked through AskInstrument).
+QStringList SetCtrlDialogMemOffsetNum();

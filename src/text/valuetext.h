@@ -62,6 +62,8 @@ QString LevelDivText(const QString& level, const QString& scale);
 using InstrumentQuery = std::function<QString(const QString& query)>;
 // Installs the seam LevelToVolts asks through and returns the previous one.
 InstrumentQuery SetLevelQuery(InstrumentQuery query);
+// Asks through the installed seam (the step lists ask the time base format and the memory size).
+QString AskInstrument(const QString& query);
 // The inverse of LevelDivText for a level command: Val(divText) * scale - offset as
 // plain text. "CHANNEL1" to "CHANNEL4" ask the channel's scale, then its offset;
 // "EXT" is scale 0.2, "EXT5" scale 1, offset 0; "ACLINE" and any other source

@@ -13,7 +13,7 @@ InstrumentQuery& levelQuery()
 
 double askNumber(const QString& query)
 {
-    return Val(StripAtLineFeed(levelQuery()(query)));
+    return Val(AskInstrument(query));
 }
 
 struct ScaleAndOffset {
@@ -42,6 +42,11 @@ InstrumentQuery SetLevelQuery(InstrumentQuery query)
 {
     if (!query) query = [](const QString&) { return QString(); };
     return std::exchange(levelQuery(), std::move(query));
+}
+
+QString AskInstrument(const QString& query)
+{
+    return StripAtLineFeed(levelQuery()(query));
 }
 
 QString LevelToVolts(const QString& divText, const QString& source)

@@ -7,10 +7,12 @@
 #include "controller/frmCtrlList.h"
 #include "controller/frmPatternDlg.h"
 #include "link/linkstate.h"
+#include "panel/panelwindows.h"
 #include "platform/testplatform.h"
 #include "state/programstate.h"
 #include "text/treewords.h"
 
+#include <QApplication>
 #include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTreeWidget>
@@ -40,6 +42,34 @@ TEST_F(CtrlListTest, AveragesAppearsAndTheExpansionSurvives)
     EXPECT_TRUE(acquire->isExpanded());
     EXPECT_FALSE(list.node(0, GroupTrigger)->isExpanded());
     EXPECT_TRUE(list.tree()->topLevelItem(0)->isExpanded());
+}
+
+TEST_F(CtrlListTest, EditedValuesFollowInPlaceAndALayoutChangeKeepsTheExpansion)
+{
+    list.mnuExpand_Click();
+    QTreeWidgetItem* timeDiv = list.node(2, GroupTimeBase);
+    CtrlData.TimeDiv = QStringLiteral("2.000ms");
+    list.SyncNodeTexts();
+    EXPECT_EQ(list.node(2, GroupTimeBase), timeDiv) << "the same item, no rebuild";
+    EXPECT_EQ(timeDiv->text(0), "Time/Div [2.000ms]");
+
+    list.node(0, GroupTrigger)->setExpanded(false);
+    CtrlData.TrigMethod = ValueWord("PULSE");
+    list.SyncNodeTexts();
+    EXPECT_EQ(list.node(3, GroupTrigger)->text(0), "Source [CH1]");
+    EXPECT_FALSE(list.node(0, GroupTrigger)->isExpanded());
+    EXPECT_TRUE(list.node(0, GroupTimeBase)->isExpanded());
+
+    // The virtual panel's node opens the panel window, and says nothing.
+    list.PraseCtrlList(QStringLiteral("KV7200B\\Virtual Panel"));
+    EXPECT_TRUE(platform->boxes.isEmpty());
+    const auto open = [] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == QLatin1String("frmV_Panel") && w->isVisible()) return true;
+        return false;
+    };
+    EXPECT_TRUE(open());
+    CloseVirtualPanelWindows();
 }
 
 TEST_F(CtrlListTest, RulesReadTheFormatNode)

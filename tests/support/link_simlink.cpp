@@ -46,14 +46,23 @@ void SimLink::aim(LinkTransport transport)
 
 QStringList SimLink::loggedCommands() const
 {
-    QFile log(dir_.filePath("commands.log"));
     QStringList commands;
-    if (!log.open(QIODevice::ReadOnly)) return commands;
+    for (const auto& entry : loggedEntries())
+        commands.append(entry.second);
+    return commands;
+}
+
+QList<QPair<qint64, QString>> SimLink::loggedEntries() const
+{
+    QFile log(dir_.filePath("commands.log"));
+    QList<QPair<qint64, QString>> entries;
+    if (!log.open(QIODevice::ReadOnly)) return entries;
     for (const QByteArray& line : log.readAll().split('\n')) {
         const qsizetype blank = line.indexOf(' ');
-        if (blank > 0) commands.append(QString::fromLatin1(line.mid(blank + 1)));
+        if (blank > 0)
+            entries.append({line.left(blank).toLongLong(), QString::fromUtf8(line.mid(blank + 1))});
     }
-    return commands;
+    return entries;
 }
 
 bool SimLink::waitForLogged(const QString& command, int count, int timeoutMs) const

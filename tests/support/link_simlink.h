@@ -35,6 +35,8 @@ class SimLink {
     void aim(LinkTransport transport);
     // The commands the simulator received, in order.
     QStringList loggedCommands() const;
+    // The same with the time each arrived, in microseconds on the monotonic clock.
+    QList<QPair<qint64, QString>> loggedEntries() const;
     // Waits up to timeoutMs for the log to hold `count` copies of command.
     bool waitForLogged(const QString& command, int count, int timeoutMs = 3000) const;
 

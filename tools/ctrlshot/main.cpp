@@ -19,6 +19,25 @@
 #include <cstdio>
 #include <memory>
 
+namespace {
+
+// Opens the editor on a node and saves a picture of the dialog it shows, then closes it.
+void shootEditor(frmCtrlList* list, const QString& nodePath, const QString& out)
+{
+    QTimer::singleShot(400, list, [out] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog) {
+            std::fprintf(stderr, "no dialog for %s\n", qPrintable(out));
+            return;
+        }
+        std::printf("%s %s\n", dialog->grab().save(out) ? "saved" : "could not save", qPrintable(out));
+        dialog->close();
+    });
+    list->PraseCtrlList(ProductModel + QLatin1Char('\\') + nodePath);
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
@@ -49,6 +68,20 @@ int main(int argc, char** argv)
         window->resizeDocks({pane}, {420}, Qt::Horizontal);
         window->resizeDocks({data, pane}, {60, 700}, Qt::Vertical);
         list->tree()->scrollToItem(list->node(0, GroupTimeBase), QAbstractItemView::PositionAtTop);
+        if (argc > 3 && QByteArray(argv[3]) == "editor") {
+            const bool chinese = Language == LanguageChinese;
+            const QString stem = path.chopped(4);
+            shootEditor(list,
+                        chinese ? QStringLiteral("触发系统\\触发方式") : QStringLiteral("Trigger\\Mode"),
+                        stem + "-list.png");
+            shootEditor(
+                list, QStringLiteral("CH1\\") + (chinese ? QStringLiteral("偏移") : QStringLiteral("Offset")),
+                stem + "-number.png");
+            shootEditor(list,
+                        QStringLiteral("CH1\\") +
+                            (chinese ? QStringLiteral("档位") : QStringLiteral("Volt/Div")),
+                        stem + "-adjust.png");
+        }
         QTimer::singleShot(500, window.get(), [&] {
             const bool saved = window->grab().save(path);
             std::fprintf(saved ? stdout : stderr, "%s %s\n", saved ? "saved" : "could not save",
