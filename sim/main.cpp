@@ -2,14 +2,14 @@
 // (with its portmapper), HiSLIP and a pseudo-terminal, or writes one of the
 // instrument's files (write-wfm, write-rcd).
 
-#include "faults.h"
-#include "filewriters.h"
-#include "hislipserver.h"
-#include "instrument.h"
-#include "portmapper.h"
-#include "ptyserver.h"
-#include "socketserver.h"
-#include "vxi11server.h"
+#include "files/filewriters.h"
+#include "model/instrument.h"
+#include "transport/faults.h"
+#include "transport/hislipserver.h"
+#include "transport/portmapper.h"
+#include "transport/ptyserver.h"
+#include "transport/socketserver.h"
+#include "transport/vxi11server.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

@@ -2,7 +2,8 @@
 // The instrument's command language, kept as pieces and joined when a command is
 // sent: root piece, sub pieces, "?" for a query, one blank, the value. Every
 // spelling is the instrument's own, mixed case included; don't tidy them.
-// The constants need nothing but QtCore's headers, so the simulator can share them.
+// The simulator keeps its own table of the same words (sim/model/keywords.h) on
+// purpose: two sides written apart catch a misspelling that one shared table hides.
 
 #include <QAnyStringView>
 #include <QLatin1StringView>

@@ -25,8 +25,10 @@ QStringList SetCtrlDialogTrigLevelNum();
 // "1.00div" down to "0.10div" by 0.01: 91 steps.
 QStringList SetCtrlDialogTrigSensitivityNum();
 // "0" to size - 1 for the reply to ":WAVEFORM:SYSMEMSIZE?" (the caller asks it).
-// A size beyond MemOffsetLimit is cut there, so a wild reply cannot exhaust memory.
+// Every real memory depth of the family (a whole stored file is about 2 M
+// samples) lies below MemOffsetLimit; only a garbled reply is cut there, so it
+// cannot exhaust memory.
 QStringList SetCtrlDialogMemOffsetNum(const QString& sizeReply);
-inline constexpr int MemOffsetLimit = 1 << 20;
+inline constexpr int MemOffsetLimit = 1 << 22;
 // The same for the size the instrument answers now (asked through AskInstrument).
 QStringList SetCtrlDialogMemOffsetNum();

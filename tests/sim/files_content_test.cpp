@@ -1,7 +1,7 @@
+#include "files/rcdcontent.h"
+#include "files/wfmcontent.h"
 #include "files_littleendian.h"
-#include "rcdcontent.h"
-#include "screencodes.h"
-#include "wfmcontent.h"
+#include "screen/screencodes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
+#include "files/rcdwriter.h"
 #include "files_littleendian.h"
-#include "rcdwriter.h"
 
 #include <QList>
 #include <gtest/gtest.h>

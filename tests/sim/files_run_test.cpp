@@ -1,5 +1,5 @@
+#include "files/filewriters.h"
 #include "files_littleendian.h"
-#include "filewriters.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,9 +1,9 @@
 // The simulator's waveform files and the program's reader agree both ways: every
 // field the writer puts is read back, and the slot read from a file writes the
 // same bytes again.
+#include "files/wfmwriter.h"
 #include "stored/storedbytes.h"
 #include "stored/wfmfile.h"
-#include "wfmwriter.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
+#include "files/wfmwriter.h"
 #include "files_littleendian.h"
-#include "wfmwriter.h"
 
 #include <QFile>
 #include <QList>

@@ -1,6 +1,6 @@
 // Blocks of the simulated instrument: framing, the parameter block decoded
 // byte by byte, and screen codes that agree with the measurements.
-#include "instrument.h"
+#include "model/instrument.h"
 
 #include <QtEndian>
 #include <cmath>

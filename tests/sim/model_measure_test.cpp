@@ -1,5 +1,5 @@
 // The eighteen measurements against the signals they are made on.
-#include "instrument.h"
+#include "model/instrument.h"
 
 #include <gtest/gtest.h>
 

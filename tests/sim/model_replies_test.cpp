@@ -1,7 +1,7 @@
 // Replies of the simulated instrument in the forms the program's download
 // and editors read, and how commands and front-panel keys change (or refuse
 // to change) them.
-#include "instrument.h"
+#include "model/instrument.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // Numbers as the instrument's commands carry them, and its time and volt ladders.
-#include "simtext.h"
-#include "timeladder.h"
+#include "model/simtext.h"
+#include "model/timeladder.h"
 
 #include <gtest/gtest.h>
 

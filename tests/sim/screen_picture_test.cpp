@@ -1,5 +1,5 @@
 #include "files_littleendian.h"
-#include "screenpicture.h"
+#include "screen/screenpicture.h"
 
 #include <QImage>
 #include <gtest/gtest.h>

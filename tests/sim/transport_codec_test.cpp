@@ -2,10 +2,10 @@
 // XDR and record marking, HiSLIP framing, and the fault layer's rewriting of
 // replies.
 
-#include "faults.h"
-#include "hislipmessage.h"
-#include "oncrpc.h"
-#include "session.h"
+#include "transport/faults.h"
+#include "transport/hislipmessage.h"
+#include "transport/oncrpc.h"
+#include "transport/session.h"
 
 #include <QEventLoop>
 #include <QTimer>

@@ -1,6 +1,7 @@
 // HiSLIP: the two-channel handshake, messages with their IDs, the requests a
 // standard client makes while it opens a session, and what a broken peer gets.
 
+#include "transport/hislipmessage.h"
 #include "wireclient.h"
 
 #include <QtEndian>
@@ -8,23 +9,9 @@
 
 namespace {
 
-enum : quint8 {
-    Initialize = 0,
-    InitializeResponse = 1,
-    FatalError = 2,
-    AsyncLock = 4,
-    AsyncLockResponse = 5,
-    Data = 6,
-    DataEnd = 7,
-    DeviceClearComplete = 8,
-    DeviceClearAcknowledge = 9,
-    AsyncMaximumMessageSize = 15,
-    AsyncMaximumMessageSizeResponse = 16,
-    AsyncInitialize = 17,
-    AsyncInitializeResponse = 18,
-    AsyncDeviceClear = 19,
-    AsyncDeviceClearAcknowledge = 23,
-};
+// The message types as the simulator itself names them.
+using namespace hislip;
+
 
 struct Message {
     quint8 type = 0xFF, control = 0;

@@ -1,6 +1,6 @@
 // The RS232 pseudo-terminal, opened the way a serial client opens a port.
 
-#include "ptyserver.h"
+#include "transport/ptyserver.h"
 #include "wireclient.h"
 
 #include <QDeadlineTimer>

@@ -1,7 +1,7 @@
 // The raw SCPI socket, and the fault options, which act the same on every
 // transport and are seen most plainly here.
 
-#include "faults.h"
+#include "transport/faults.h"
 #include "wireclient.h"
 
 #include <QElapsedTimer>
