@@ -14,5 +14,4 @@ void ResetAcquireState()
     ResetTableTexts();
     ResetOperationState();
     LastTableReading = TableReading{};
-    XyChannelShown = nullptr;
 }

@@ -16,8 +16,6 @@ bool OperationDone = false;
 int16_t ProgressStep = 0;
 double ProgressBase = 0;
 int16_t ProgressPercent = 0;
-std::function<void()> ProgressPercentChanged;
-std::function<void(int slot)> WaveReadingEnded;
 
 namespace {
 
@@ -69,6 +67,12 @@ void SetProgressView(ProgressView* view)
     installed = view;
 }
 
+ReadingEvents& ReadingNotifier()
+{
+    static ReadingEvents events;
+    return events;
+}
+
 void ProgressTimerTick()
 {
     ProgressView& bar = Progress();
@@ -77,7 +81,7 @@ void ProgressTimerTick()
     int percent = ProgressPercent + ProgressStep;
     if (percent > ProgressBase) percent = int(ProgressBase);
     ProgressPercent = int16_t(std::min(percent, 100));
-    if (ProgressPercentChanged) ProgressPercentChanged();
+    Q_EMIT ReadingNotifier().progressPercentChanged();
 }
 
 void SetOperationRoutine(int code, OperationRoutine routine)
@@ -108,8 +112,8 @@ void RunReadingTick()
 {
     AskRunState();
     const bool finished = RunOperation(OperationCode);
-    if (finished && OperationCode == OperationWaveWindow && WaveReadingEnded)
-        WaveReadingEnded(CurrentWaveIndex);
+    if (finished && OperationCode == OperationWaveWindow)
+        Q_EMIT ReadingNotifier().waveReadingEnded(CurrentWaveIndex);
 }
 
 void EndReadingFrame()
@@ -143,6 +147,4 @@ void ResetOperationState()
     headless.setBarValue(0);
     WaveParameterBlock = WaveParameter{};
     TriggerStatusText.clear();
-    ProgressPercentChanged = nullptr;
-    WaveReadingEnded = nullptr;
 }

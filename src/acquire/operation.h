@@ -4,6 +4,7 @@
 // OperationCode, the frame runs it (in frmPrgress's timer, or straight away on
 // the command line) and raises OperationDone at the end.
 
+#include <QObject>
 #include <cstdint>
 #include <functional>
 
@@ -41,9 +42,17 @@ ProgressView& Progress();
 // Installs the view of a shown frame; null puts the stand-in back.
 void SetProgressView(ProgressView* view);
 
-// Told each time ProgressPercent changes during a wave window's reading, so the
-// window can update its progress display.
-extern std::function<void()> ProgressPercentChanged;
+// What the reading frame announces; windows listen to ReadingNotifier().
+class ReadingEvents : public QObject {
+    Q_OBJECT
+  Q_SIGNALS:
+    // ProgressPercent changed during a wave window's reading (of CurrentWaveIndex).
+    void progressPercentChanged();
+    // Operation 10 ended by its routine for the wave slot read: the window
+    // hides its progress display.
+    void waveReadingEnded(int slot);
+};
+ReadingEvents& ReadingNotifier();
 
 // One tick of the bar's clock: the bar grows by ProgressStep; in a wave window's
 // reading ProgressPercent grows too, held at ProgressBase and at 100.
@@ -58,10 +67,6 @@ using OperationRoutine = std::function<bool()>;
 void SetOperationRoutine(int code, OperationRoutine routine);
 // Runs the operation of code; false for its error path or an unknown code.
 bool RunOperation(int code);
-
-// The wave window's side of the end of operation 10: the window is made sure
-// to exist and its progress display is hidden. Given the slot read.
-extern std::function<void(int slot)> WaveReadingEnded;
 
 // The frame's steps in order. Begin: LinkBusy and OperationRunning up, the bar
 // at 5. Tick: asks the run state, runs the operation. End: LinkBusy down,

@@ -4,13 +4,11 @@
 #include "acquire/operation.h"
 #include "acquire/readblocks.h"
 #include "acquire/waverecord.h"
-#include "text/keywords.h"
-#include "text/valuetext.h"
 #include "link/devicefacts.h"
 #include "link/linkcommands.h"
 #include "link/vocabulary.h"
-
-std::function<void(int channel)> XyChannelShown;
+#include "text/keywords.h"
+#include "text/valuetext.h"
 
 namespace {
 
@@ -56,7 +54,6 @@ void takeParameter(WaveRecord& r, PeakFlags& peaks)
 
 void forceXyChannel(WaveRecord& r, int channel)
 {
-    if (!r.showChannel(channel) && XyChannelShown) XyChannelShown(channel);
     r.setShowChannel(channel, true);
 }
 

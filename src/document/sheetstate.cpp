@@ -9,6 +9,9 @@ std::array<QStringList, SheetKindCount> SheetSlotNames;
 int DocChoice = 0;
 bool DocChosen = false;
 
+bool SheetLoadBusy = false;
+bool RecordRunBusy = false;
+
 void ResetSheetState()
 {
     DataSheetName.clear();
@@ -20,4 +23,6 @@ void ResetSheetState()
         names.clear();
     DocChoice = 0;
     DocChosen = false;
+    SheetLoadBusy = false;
+    RecordRunBusy = false;
 }

@@ -19,6 +19,10 @@ extern bool SheetSorted;
 // Names of each kind's windows in slot order; a list's size is the kind's count.
 extern std::array<QStringList, SheetKindCount> SheetSlotNames;
 
+// Work a refresh must not cut into: a data sheet being read, a record replaying.
+extern bool SheetLoadBusy;
+extern bool RecordRunBusy;
+
 // The option taken in the new or open document dialog, and whether OK took it.
 extern int DocChoice;
 extern bool DocChosen;

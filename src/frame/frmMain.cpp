@@ -6,9 +6,9 @@
 #include "acquire/waverecord.h"
 #include "controller/ctrlstate.h"
 #include "controller/frmCtrlList.h"
+#include "document/sheetstate.h"
 #include "frame/recentfiles.h"
 #include "frame/shutdown.h"
-#include "settings/softwaresettings.h"
 #include "link/connection.h"
 #include "link/devicefacts.h"
 #include "link/linklamp.h"
@@ -16,8 +16,8 @@
 #include "link/usbtransport.h"
 #include "panel/panelwindows.h"
 #include "platform/platform.h"
+#include "settings/softwaresettings.h"
 #include "sheet/frmDataSheetTree.h"
-#include "document/sheetstate.h"
 #include "text/language.h"
 #include "text/messages.h"
 #include "text/productinfo.h"
@@ -59,17 +59,14 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
     createTimers();
 }
 
-frmMain::~frmMain()
-{
-    LinkLampChanged = nullptr;
-}
+frmMain::~frmMain() = default;
 
 void frmMain::Form_Load()
 {
     CommTimer->stop();
     OperationRunning = false;
     Connected = false;
-    LinkLampChanged = [this](bool on) { ShowLamp(on); };
+    connect(&LinkNotifier(), &LinkEvents::lampChanged, this, &frmMain::ShowLamp, Qt::UniqueConnection);
     LinkBusy = false;
     CommBusyTimer->start();
     TimeOutTimer->start();

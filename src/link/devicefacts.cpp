@@ -7,13 +7,11 @@ uint8_t BandwidthClass = 0;
 uint8_t SampleBase = 0;
 bool HasLa = false;
 QString MathDisplay;
-std::function<void()> HasLaChanged;
 
 void SetHasLa(bool value)
 {
     if (HasLa == value) return;
     HasLa = value;
-    if (HasLaChanged) HasLaChanged();
 }
 
 void ResetDeviceFacts()
@@ -25,5 +23,4 @@ void ResetDeviceFacts()
     SampleBase = 0;
     HasLa = false;
     MathDisplay.clear();
-    HasLaChanged = nullptr;
 }

@@ -3,7 +3,6 @@
 
 #include <QString>
 #include <cstdint>
-#include <functional>
 
 // The vendor and family the identity must begin with, upper case.
 inline const QString IdnPattern = QStringLiteral("KORVA TECHNOLOGIES,KV7");
@@ -16,9 +15,6 @@ extern uint8_t SampleBase;       // subtracted from every wave code; 0 for the s
 extern bool HasLa;               // logic-analyser inputs; this family has none
 extern QString MathDisplay;      // "ON" or "OFF", from ":MATH:DISPLAY?"
 
-// Told when SetHasLa changes the flag, so the control tree and the wave
-// windows can follow.
-extern std::function<void()> HasLaChanged;
 void SetHasLa(bool value);
 
 void ResetDeviceFacts();

@@ -3,16 +3,23 @@
 #include "link/linkstate.h"
 
 bool LinkLampOn = false;
-std::function<void(bool on)> LinkLampChanged;
+
+LinkEvents& LinkNotifier()
+{
+    static LinkEvents events;
+    return events;
+}
 
 void SetLinkLamp(bool on)
 {
     LinkLampOn = on;
-    if (LinkLampChanged) LinkLampChanged(on);
+    Q_EMIT LinkNotifier().lampChanged(on);
 }
 
 void LinkLost()
 {
+    const bool wasConnected = Connected;
     SetLinkLamp(false);
     Connected = false;
+    if (wasConnected) Q_EMIT LinkNotifier().linkLost();
 }

@@ -1,13 +1,22 @@
 #pragma once
-// The connection lamp of the main window (picLED_ON / picLED_OFF). The link
-// only says whether it is lit; the window that shows it listens here.
+// The connection lamp of the main window (picLED_ON / picLED_OFF) and the loss
+// of the link. The link only says what happened; windows that show it listen to
+// LinkNotifier()'s signals (many may, and each is let go when it is destroyed).
 
-#include <functional>
+#include <QObject>
+
+class LinkEvents : public QObject {
+    Q_OBJECT
+  Q_SIGNALS:
+    // The lamp was turned on or off.
+    void lampChanged(bool on);
+    // The link went down while connected: every later send and read is a silent no-op.
+    void linkLost();
+};
+LinkEvents& LinkNotifier();
 
 // Whether the lamp was last turned on.
 extern bool LinkLampOn;
-// Called with the new state each time the link turns the lamp on or off.
-extern std::function<void(bool on)> LinkLampChanged;
 
 void SetLinkLamp(bool on);
 

@@ -74,7 +74,5 @@ void ResetLinkState()
     BaudRate = QStringLiteral("9600");
     SerialDevice.clear();
     LinkLampOn = false;
-    LinkLampChanged = nullptr;
-    PanelRunFlagsSet = nullptr;
     ResetDeviceFacts();
 }

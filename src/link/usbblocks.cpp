@@ -11,8 +11,6 @@
 #include <array>
 #include <vector>
 
-std::function<bool()> PanelRunFlagsSet;
-
 namespace {
 
 constexpr ViUInt32 ScreenReadSize = 6400;
@@ -95,7 +93,7 @@ void UsbReadBlock(int& count, QByteArray& bytes)
     count = ScreenPictureSize;
 }
 
-void ReadDisplayData(QByteArray& bytes)
+void ReadDisplayData(QByteArray& bytes, const std::function<bool()>& askAgain)
 {
     if (!LinkGateOpen() || TransportType != TransportVisa) return;
     const QString ask = Vocab::Whole::DisplayData;
@@ -107,5 +105,5 @@ void ReadDisplayData(QByteArray& bytes)
         WriteCmd(ask);
         DoEvents();
         // A lost link answers nothing more: asking again would never end.
-    } while (LinkGateOpen() && PanelRunFlagsSet && PanelRunFlagsSet());
+    } while (LinkGateOpen() && askAgain && askAgain());
 }

@@ -49,8 +49,7 @@ bool UsbReadParameterBytes(QByteArray& block);
 // failed read is reported only when no query was sent since the last good one.
 void UsbReadBlock(int& count, QByteArray& bytes);
 
-// Whether both run flags of the virtual panel are set; ReadDisplayData asks
-// again for a picture while they are. Unset: they are not.
-extern std::function<bool()> PanelRunFlagsSet;
-// Asks for the screen picture until a whole one came (VISA only).
-void ReadDisplayData(QByteArray& bytes);
+// Asks for the screen picture (VISA only). When a read brings no whole picture it
+// asks again while askAgain says so (the virtual panel: while both its run flags
+// are set); without askAgain it asks once.
+void ReadDisplayData(QByteArray& bytes, const std::function<bool()>& askAgain = {});

@@ -59,7 +59,6 @@ frmV_Panel::frmV_Panel(QWidget* parent)
 
     PanelFlags.PanelOpen = true;
     PanelFlags.PanelRunning = true;
-    PanelRunFlagsSet = PanelRunsScreen;
     keys_->repeat().HeldTicks = 0;
     keys_->ShowLaKey(HasLa);
     SetCaptions(Language);
@@ -133,7 +132,7 @@ void frmV_Panel::SetCaptions(int language)
 bool frmV_Panel::DrawBulkWave()
 {
     QByteArray screen;
-    ReadDisplayData(screen);
+    ReadDisplayData(screen, PanelRunsScreen);
     if (!PanelRunsScreen() || screen.size() != ScreenPictureSize) return false;
     screen_ = screen;
     AddPic->AddPic(screen_.constData(), int(screen_.size()));

@@ -10,12 +10,9 @@ QImage ScreenImage(const QByteArray& bytes)
 
 bool ReadScreenPicture(QByteArray& bytes, int tries)
 {
-    const std::function<bool()> previous = PanelRunFlagsSet;
     int tried = 0;
-    // ReadDisplayData asks again while the panel runs; here a count stands in for it.
-    PanelRunFlagsSet = [&tried, tries] { return ++tried < tries; };
     bytes.clear();
-    ReadDisplayData(bytes);
-    PanelRunFlagsSet = previous;
+    // The panel asks again while it runs; here a count of tries stands in for it.
+    ReadDisplayData(bytes, [&tried, tries] { return ++tried < tries; });
     return bytes.size() == ScreenPictureSize;
 }

@@ -1,5 +1,6 @@
 #include "stored/recordplay.h"
 
+#include "document/sheetstate.h"
 #include "stored/recordslot.h"
 #include "text/captions.h"
 #include "text/language.h"
@@ -49,6 +50,8 @@ void SetRecordReplayStatus(RecordSlot& slot, int state)
 {
     slot.PlayState = uint8_t(state);
     slot.StatusText = DispMsg(slot, Language);
+    RecordRunBusy = std::any_of(RecordSlots.begin(), RecordSlots.end(),
+                                [](const RecordSlot& s) { return s.PlayState == RecordReplaying; });
 }
 
 ClockChange RecordReplayStart(RecordSlot& slot)

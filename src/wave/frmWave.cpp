@@ -2,8 +2,8 @@
 
 #include "acquire/operation.h"
 #include "acquire/waverecord.h"
-#include "link/linkstate.h"
 #include "document/sheetstate.h"
+#include "link/linkstate.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
 #include "wave/frmWavePicture.h"
@@ -62,18 +62,6 @@ QLabel* imageHolder(QWidget* parent, const char* name, bool stop, bool down)
     return label;
 }
 
-// The reading frame tells the window of the slot it read; the window may have
-// gone meanwhile.
-void hookReadingFrame()
-{
-    WaveReadingEnded = [](int slot) {
-        if (frmWave* window = WaveWindowOf(slot)) window->ShowRefreshProgress(false);
-    };
-    ProgressPercentChanged = [] {
-        if (frmWave* window = WaveWindowOf(CurrentWaveIndex)) window->ShowRefreshPercent(ProgressPercent);
-    };
-}
-
 } // namespace
 
 frmWave::frmWave(int slot, QWidget* parent) : QWidget(parent), slot_(validSlot(slot) ? slot : 0)
@@ -84,7 +72,13 @@ frmWave::frmWave(int slot, QWidget* parent) : QWidget(parent), slot_(validSlot(s
     connectControls();
     makeRefreshLoop();
     WaveForms[slot_] = this;
-    hookReadingFrame();
+    // The reading frame tells which slot it read; only that slot's window answers.
+    connect(&ReadingNotifier(), &ReadingEvents::waveReadingEnded, this, [this](int slot) {
+        if (WaveWindowOf(slot) == this) ShowRefreshProgress(false);
+    });
+    connect(&ReadingNotifier(), &ReadingEvents::progressPercentChanged, this, [this] {
+        if (WaveWindowOf(CurrentWaveIndex) == this) ShowRefreshPercent(ProgressPercent);
+    });
     SetCaptions(Language);
     Form_Load();
 }

@@ -1,5 +1,6 @@
 #include "wave/waverefresh.h"
 
+#include "document/sheetstate.h"
 #include "text/language.h"
 #include "wave/wavechannels.h"
 
@@ -8,11 +9,10 @@
 int RefreshTick = 0;
 bool AutoRefreshRunning = false;
 int RefreshingWaveSlot = -1;
-std::function<bool()> RefreshHeldOff;
 
 bool RefreshIsHeldOff()
 {
-    return RefreshHeldOff && RefreshHeldOff();
+    return SheetLoadBusy || RecordRunBusy;
 }
 
 QString WaveLoadingCaption(int language)
@@ -26,6 +26,5 @@ void ResetWaveRefreshState()
     RefreshTick = 0;
     AutoRefreshRunning = false;
     RefreshingWaveSlot = -1;
-    RefreshHeldOff = nullptr;
     InstrumentDisplaySwitches = nullptr;
 }

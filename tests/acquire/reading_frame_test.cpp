@@ -32,10 +32,11 @@ TEST_P(ProgressTick, GrowsThePercentUpToTheBaseAndHundred)
     ProgressBase = c.base;
     Progress().setBarValue(98);
     int told = 0;
-    ProgressPercentChanged = [&told] { ++told; };
+    QObject listener;
+    QObject::connect(&ReadingNotifier(), &ReadingEvents::progressPercentChanged, &listener,
+                     [&told] { ++told; });
 
     ProgressTimerTick();
-    ProgressPercentChanged = nullptr;
 
     EXPECT_EQ(ProgressPercent, c.percentAfter);
     EXPECT_EQ(Progress().barValue(), std::min(98.0 + c.step, 100.0)) << "the bar stops at its maximum";
@@ -61,12 +62,13 @@ TEST_F(ReadingFrame, RunsTheInstalledRoutineAndClosesEvenOnItsErrorPath)
             return finished;
         });
         int endedSlot = -1;
-        WaveReadingEnded = [&endedSlot](int slot) { endedSlot = slot; };
+        QObject listener;
+        QObject::connect(&ReadingNotifier(), &ReadingEvents::waveReadingEnded, &listener,
+                         [&endedSlot](int slot) { endedSlot = slot; });
         CurrentWaveIndex = 7;
 
         RunReadingFrame(OperationWaveWindow);
         SetOperationRoutine(OperationWaveWindow, nullptr);
-        WaveReadingEnded = nullptr;
 
         EXPECT_TRUE(busyInside);
         EXPECT_TRUE(OperationDone);

@@ -5,10 +5,10 @@
 #include "acquire/operation.h"
 #include "acquire/readwavewindow.h"
 #include "acquire/waverecord.h"
-#include "settings/softwaresettings.h"
+#include "document/sheetstate.h"
 #include "link/linkcommands.h"
 #include "link/linkstate.h"
-#include "document/sheetstate.h"
+#include "settings/softwaresettings.h"
 #include "wave/waverefresh.h"
 
 #include <QCheckBox>
@@ -156,9 +156,9 @@ TEST_F(WaveWindowTest, HeldOffRefreshDoesNothing)
 {
     open();
     WaveRecords[0].ShowCH1 = true;
-    RefreshHeldOff = [] { return true; };
+    RecordRunBusy = true; // a record replays
     control<QPushButton>("cmdRefresh")->click();
-    RefreshHeldOff = nullptr;
+    RecordRunBusy = false;
     EXPECT_TRUE(platform->boxes.isEmpty());
     EXPECT_EQ(RefreshingWaveSlot, -1);
 }

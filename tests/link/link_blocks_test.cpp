@@ -152,13 +152,13 @@ TEST_F(BlockTest, DisplayDataAsksAgainWhileThePanelRuns)
     connectOverVisa();
     SuppressReadError = true;
     int asked = 0;
-    PanelRunFlagsSet = [&] {
+    const auto panelRuns = [&] {
         visa->pending = pictureReply();
         return ++asked < 5;
     };
     QByteArray bytes;
 
-    ReadDisplayData(bytes);
+    ReadDisplayData(bytes, panelRuns);
 
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(visa->writes, (std::vector<std::string>{":DISPLAY:DATA?\n", ":DISPLAY:DATA?\n"}));

@@ -99,12 +99,16 @@ TEST_F(CommandTest, WriteCmdSendsTheLineAndPausesEvenWhenTheWriteFails)
 
     visa->writeStatus = VI_ERROR_CONN_LOST;
     bool lampOn = true;
-    LinkLampChanged = [&](bool on) { lampOn = on; };
+    int lost = 0;
+    QObject listener;
+    QObject::connect(&LinkNotifier(), &LinkEvents::lampChanged, &listener, [&](bool on) { lampOn = on; });
+    QObject::connect(&LinkNotifier(), &LinkEvents::linkLost, &listener, [&] { ++lost; });
     WriteCmd(":STOP");
     EXPECT_EQ(platform->sleeps, (QList<int>{100, 100}));
     EXPECT_EQ(boxTexts(), QStringList{"Send Message|Can't Connect to Device!"});
     EXPECT_FALSE(Connected);
     EXPECT_FALSE(lampOn);
+    EXPECT_EQ(lost, 1);
 
     WriteCmd(":RUN");
     EXPECT_EQ(visa->writes.size(), 2u) << "after LinkLost a send is a silent no-op";

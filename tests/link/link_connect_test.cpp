@@ -38,7 +38,9 @@ TEST_P(IdentityTable, AcceptsOnlyASupportedModelWithNewEnoughFirmware)
 {
     const IdentityCase& c = GetParam();
     std::vector<bool> lamp;
-    LinkLampChanged = [&](bool on) { lamp.push_back(on); };
+    QObject listener;
+    QObject::connect(&LinkNotifier(), &LinkEvents::lampChanged, &listener,
+                     [&](bool on) { lamp.push_back(on); });
 
     connectTo(c.identity);
 
@@ -83,7 +85,9 @@ TEST_F(ConnectTest, AnIdentityNotStartingWithThePatternCostsAPause)
 TEST_F(ConnectTest, OldFirmwareIsRefusedAndLeavesConnectingSet)
 {
     std::vector<bool> lamp;
-    LinkLampChanged = [&](bool on) { lamp.push_back(on); };
+    QObject listener;
+    QObject::connect(&LinkNotifier(), &LinkEvents::lampChanged, &listener,
+                     [&](bool on) { lamp.push_back(on); });
     connectTo("Korva Technologies,KV7204B,1,00.03.02.00.00\n");
 
     EXPECT_FALSE(Connected);

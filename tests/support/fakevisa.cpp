@@ -140,8 +140,6 @@ FakeVisaTest::~FakeVisaTest()
 {
     InstallVisaLibrary(std::move(previous_));
     InstallResourceChooser({});
-    LinkLampChanged = nullptr;
-    PanelRunFlagsSet = nullptr;
     ResetProgramState();
 }
 
