@@ -6,6 +6,7 @@
 #include "wave/cursormouse.h"
 #include "wave/qimagesurface.h"
 #include "wave/wavedrawing.h"
+#include "wave/wavepicture.h"
 
 #include <benchmark/benchmark.h>
 
@@ -15,10 +16,8 @@ void BM_CursorDragStep(benchmark::State& state)
 {
     const double zoom = state.range(0) / 100.0;
     const WaveRecord record = SineReading(2, QStringLiteral("500mV"));
-    QImageSurface picture(QSize(int(350 * zoom), int(250 * zoom)));
-    const WaveCanvas canvas(picture, zoom);
-    DrawScrGrid(canvas, record);
-    DrawOSC(canvas, record);
+    QImageSurface picture(WavePictureSize(zoom));
+    DrawWavePicture(picture, record, zoom);
     const QImage clean = picture.image();
     const ReadoutInput input = ReadoutInputOf(record, zoom, 1);
     CursorState cursors;

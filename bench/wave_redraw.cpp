@@ -5,6 +5,7 @@
 #include "acquire/waveparameter.h"
 #include "wave/qimagesurface.h"
 #include "wave/wavedrawing.h"
+#include "wave/wavepicture.h"
 
 #include <benchmark/benchmark.h>
 #include <cmath>
@@ -16,11 +17,9 @@ void BM_FullRedraw(benchmark::State& state)
 {
     const double zoom = state.range(0) / 100.0;
     const WaveRecord record = SineReading(4, QStringLiteral("1.00V"));
-    QImageSurface surface(QSize(int(350 * zoom), int(250 * zoom)));
-    const WaveCanvas canvas(surface, zoom);
+    QImageSurface surface(WavePictureSize(zoom));
     for (auto _ : state) {
-        DrawScrGrid(canvas, record);
-        DrawOSC(canvas, record);
+        DrawWavePicture(surface, record, zoom);
         benchmark::DoNotOptimize(surface.image().constBits());
     }
 }

@@ -9,6 +9,7 @@
 #include "link/vocabulary.h"
 #include "wave/qimagesurface.h"
 #include "wave/wavedrawing.h"
+#include "wave/wavepicture.h"
 
 #include <QCommandLineParser>
 #include <cmath>
@@ -80,11 +81,8 @@ void chooseChannels(WaveRecord& record, const QList<int>& channels)
 
 QImage drawRecord(const WaveRecord& record, double zoom)
 {
-    const QSize size(int(std::lround(350 * zoom)), int(std::lround(250 * zoom)));
-    QImageSurface surface(size);
-    const WaveCanvas canvas(surface, zoom, ModelIsSupported == 1);
-    DrawScrGrid(canvas, record);
-    DrawOSC(canvas, record);
+    QImageSurface surface(WavePictureSize(zoom));
+    DrawWavePicture(surface, record, zoom);
     return surface.image();
 }
 

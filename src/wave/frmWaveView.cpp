@@ -3,9 +3,9 @@
 #include "wave/frmWave.h"
 
 #include "acquire/waverecord.h"
+#include "document/sheetstate.h"
 #include "link/devicefacts.h"
 #include "platform/platform.h"
-#include "document/sheetstate.h"
 #include "text/language.h"
 #include "text/messages.h"
 #include "wave/cursordrawing.h"
@@ -15,6 +15,7 @@
 #include "wave/wavecolors.h"
 #include "wave/wavedrawing.h"
 #include "wave/wavelayout.h"
+#include "wave/wavepicture.h"
 #include "wave/wavezoom.h"
 
 #include <QCheckBox>
@@ -90,9 +91,7 @@ void frmWave::drawPicture()
     pane.setColor(QPalette::Window, PaletteFor(record().ColorMode).background);
     BackPic->setPalette(pane);
     QImageSurface surface(WavePic->size());
-    const WaveCanvas canvas(surface, Zoom, ModelIsSupported != 0);
-    DrawScrGrid(canvas, record());
-    DrawOSC(canvas, record());
+    DrawWavePicture(surface, record(), Zoom);
     cleanPicture_ = surface.image().copy();
     showCursors();
 }
