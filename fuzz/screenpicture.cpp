@@ -1,7 +1,7 @@
 // The screen picture of :DISPLAY:DATA? as the panel shows it: any bytes of the
 // picture's length (the only ones it decodes) give a picture or a null image.
 #include "panel/screenpicture.h"
-#include "link/usbtransport.h"
+#include "link/visablocks.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "acquire/blockdecode.h"
 
 #include "acquire/wavebytes.h"
-#include "link/usbtransport.h"
+#include "link/visablocks.h"
 
 static_assert(ParameterBlockSize == int(WaveParameterSize));
 

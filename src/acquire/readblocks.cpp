@@ -6,7 +6,6 @@
 #include "acquire/wavebytes.h"
 #include "link/devicefacts.h"
 #include "link/linkcommands.h"
-#include "link/usbtransport.h"
 #include "link/vocabulary.h"
 #include "platform/platform.h"
 #include "text/valuetext.h"

@@ -7,7 +7,6 @@
 #include "acquire/wavebytes.h"
 #include "link/devicefacts.h"
 #include "link/linkcommands.h"
-#include "link/usbtransport.h"
 #include "link/vocabulary.h"
 #include "text/valuetext.h"
 

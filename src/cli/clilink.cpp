@@ -2,7 +2,7 @@
 
 #include "link/connection.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
+#include "link/visaopen.h"
 #include "text/language.h"
 #include "text/messages.h"
 #include "visa/visaconfig.h"

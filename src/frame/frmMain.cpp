@@ -13,7 +13,7 @@
 #include "link/devicefacts.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
+#include "link/visaopen.h"
 #include "panel/panelwindows.h"
 #include "platform/platform.h"
 #include "settings/softwaresettings.h"

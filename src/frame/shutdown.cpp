@@ -2,8 +2,8 @@
 
 #include "link/linkcommands.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
 #include "link/visalibrary.h"
+#include "link/visaopen.h"
 
 void ReleaseInstrumentAndVisa()
 {

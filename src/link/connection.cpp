@@ -1,10 +1,5 @@
 #include "link/connection.h"
 
-#include "text/keywords.h"
-#include "text/steplists.h"
-#include "text/valuetext.h"
-#include "text/language.h"
-#include "text/messages.h"
 #include "link/devicefacts.h"
 #include "link/firmware.h"
 #include "link/linkcommands.h"
@@ -12,10 +7,15 @@
 #include "link/linkstate.h"
 #include "link/restriction.h"
 #include "link/serialtransport.h"
-#include "link/usbtransport.h"
 #include "link/visalibrary.h"
+#include "link/visaopen.h"
 #include "link/vocabulary.h"
 #include "platform/platform.h"
+#include "text/keywords.h"
+#include "text/language.h"
+#include "text/messages.h"
+#include "text/steplists.h"
+#include "text/valuetext.h"
 
 namespace {
 

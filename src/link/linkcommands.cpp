@@ -2,7 +2,7 @@
 
 #include "link/linkstate.h"
 #include "link/serialtransport.h"
-#include "link/usbtransport.h"
+#include "link/visatext.h"
 #include "platform/platform.h"
 
 namespace {

@@ -3,7 +3,6 @@
 #include "link/devicefacts.h"
 #include "link/linklamp.h"
 #include "link/serialtransport.h"
-#include "link/usbtransport.h"
 
 int TransportType = TransportVisa;
 bool Connected = false;

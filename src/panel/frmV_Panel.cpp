@@ -2,7 +2,7 @@
 
 #include "link/devicefacts.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
+#include "link/visablocks.h"
 #include "panel/keysetwidgets.h"
 #include "panel/panelstate.h"
 #include "panel/panelwindows.h"

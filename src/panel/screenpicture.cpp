@@ -1,6 +1,6 @@
 #include "panel/screenpicture.h"
 
-#include "link/usbtransport.h"
+#include "link/visablocks.h"
 
 QImage ScreenImage(const QByteArray& bytes)
 {

@@ -5,7 +5,7 @@
 #include "link/frmDlgResource.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
-#include "link/usbtransport.h"
+#include "link/visaopen.h"
 #include "text/language.h"
 
 #include <QAbstractItemView>

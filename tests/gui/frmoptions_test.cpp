@@ -1,12 +1,12 @@
 #include "fakeinstrument.h"
 #include "frame/frmOptions.h"
-#include "text/language.h"
-#include "settings/softwaresettings.h"
 #include "link/connection.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
-#include "state/programstate.h"
+#include "link/visaopen.h"
 #include "platform/testplatform.h"
+#include "settings/softwaresettings.h"
+#include "state/programstate.h"
+#include "text/language.h"
 
 #include <QCheckBox>
 #include <QComboBox>

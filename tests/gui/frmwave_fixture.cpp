@@ -5,7 +5,7 @@
 #include "acquire/waverecord.h"
 #include "link/connection.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
+#include "link/visaopen.h"
 #include "state/programstate.h"
 #include "visa/visaconfig.h"
 

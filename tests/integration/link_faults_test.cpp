@@ -9,7 +9,7 @@
 #include "link/linkcommands.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
+#include "link/visablocks.h"
 #include "link/visalibrary.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "acquire/waveparameter.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
+#include "link/visablocks.h"
 
 #include <cstring>
 

@@ -8,7 +8,8 @@
 #include "link/linklamp.h"
 #include "link/linkstate.h"
 #include "link/serialtransport.h"
-#include "link/usbtransport.h"
+#include "link/visablocks.h"
+#include "link/visatext.h"
 
 #include <functional>
 

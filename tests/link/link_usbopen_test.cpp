@@ -4,7 +4,7 @@
 
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
-#include "link/usbtransport.h"
+#include "link/visaopen.h"
 #include "text/language.h"
 #include "text/messages.h"
 

@@ -3,7 +3,7 @@
 #include "link/linklamp.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
-#include "link/usbtransport.h"
+#include "link/visaopen.h"
 #include "state/programstate.h"
 
 #include <algorithm>

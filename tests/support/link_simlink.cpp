@@ -1,7 +1,7 @@
 #include "link_simlink.h"
 
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
+#include "link/visaopen.h"
 #include "state/programstate.h"
 #include "visa/visaconfig.h"
 

@@ -2,7 +2,6 @@
 
 #include "link/connection.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
 
 #include <QDeadlineTimer>
 #include <QTcpSocket>

@@ -1,36 +1,16 @@
 #pragma once
-// The VISA transport: finding and opening the instrument's resource, text
-// writes and reads, and the three binary reads (screen codes, the parameter
-// block, the screen picture). Every routine but UsbOpen does nothing unless
-// the link's gate is open (Connected or Connecting).
+// The VISA transport's binary reads: screen codes, the parameter block and the
+// screen picture. Each hands back bytes; the readings decode them. None does
+// anything unless the link's gate is open (Connected or Connecting).
 
 #include <QByteArray>
-#include <QString>
 #include <cstdint>
 #include <functional>
 #include <span>
 
-// The find pattern of UsbOpen: every USB, TCPIP or GPIB instrument resource.
-inline constexpr char InstrumentFindPattern[] = "(USB|TCPIP|GPIB)?*INSTR";
 // The screen picture of ":DISPLAY:DATA?": 320 by 240 at 8 bits per pixel, its
 // header and colour table.
 inline constexpr int ScreenPictureSize = 77878;
-
-// The default resource manager into VisaDefaultRM, and its close (which closes
-// every session opened from it).
-void OpenVisaRM();
-void CloseVisaRM();
-
-// Finds the resources, lets the user choose when there are several, opens
-// ResourceName into VisaSession. Sets DevicePresent false, with a box unless the
-// user cancelled, when nothing could be opened.
-void UsbOpen();
-// Sends the command and a line feed; a failure shows a box and, when
-// connected, ends in LinkLost.
-void UsbWrite(const QString& command);
-// One read of at most 256 bytes, as Latin-1 text; the rest of a longer reply
-// is left for the next read. Read failures are not reported.
-QString UsbRead();
 
 // One block of at most 6400 bytes into `into`, sample i at index i. The
 // length digits of the header are not parsed: the samples are the bytes

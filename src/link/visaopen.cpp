@@ -1,9 +1,10 @@
-#include "text/messages.h"
+#include "link/visaopen.h"
+
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
-#include "link/usbtransport.h"
 #include "link/visalibrary.h"
 #include "platform/platform.h"
+#include "text/messages.h"
 
 #include <cstring>
 

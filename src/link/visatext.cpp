@@ -1,9 +1,10 @@
-#include "text/messages.h"
+#include "link/visatext.h"
+
 #include "link/linklamp.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
 #include "link/visalibrary.h"
 #include "platform/platform.h"
+#include "text/messages.h"
 
 #include <algorithm>
 #include <array>

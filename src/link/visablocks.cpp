@@ -1,7 +1,8 @@
+#include "link/visablocks.h"
+
 #include "link/linkcommands.h"
 #include "link/linklamp.h"
 #include "link/linkstate.h"
-#include "link/usbtransport.h"
 #include "link/visalibrary.h"
 #include "link/vocabulary.h"
 #include "platform/platform.h"
