@@ -1,6 +1,7 @@
 // frmOpenWaveform: its controls, captions, first layout and close.
 #include "stored/frmOpenWaveform.h"
 
+#include "document/childwindowwidgets.h"
 #include "document/sheetstate.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
@@ -125,18 +126,11 @@ MemoryWaveSlot& frmOpenWaveform::record() const
 void frmOpenWaveform::buildControls()
 {
     side_ = buildSidePanel();
-    BackPic = named(new QFrame(this), "BackPic");
-    BackPic->setFrameShape(QFrame::Box);
-    BackPic->setAutoFillBackground(true);
-    MemoryWavePic = named(new WavePicture(BackPic), "MemoryWavePic");
-    MemoryWavePic->resize(PictureSizeAt(1.0)); // the cursors' start values are for this size
-    HScroll = named(new QScrollBar(Qt::Horizontal, this), "HScroll");
-    VScroll = named(new QScrollBar(Qt::Vertical, this), "VScroll");
-    for (QScrollBar* bar : {HScroll, VScroll}) {
-        bar->setRange(0, 100);
-        bar->setPageStep(10);
-        bar->hide();
-    }
+    const PictureArea area = BuildPictureArea(this, QStringLiteral("MemoryWavePic"));
+    BackPic = area.BackPic;
+    MemoryWavePic = area.picture;
+    HScroll = area.HScroll;
+    VScroll = area.VScroll;
     framRefresh = named(new QFrame(BackPic), "framRefresh");
     framRefresh->setAutoFillBackground(true);
     framRefresh->resize(200, 16);
@@ -342,14 +336,7 @@ frmOpenWaveform* CreateMemoryWaveWindow(QMdiArea* area, int slot)
     if (!validSlot(slot)) return nullptr;
     auto* window = new frmOpenWaveform(slot);
     window->setWindowTitle(MemoryWaveSlots[size_t(slot)].Name);
-    if (area) {
-        QMdiSubWindow* child = area->addSubWindow(window);
-        child->setObjectName(QStringLiteral("MemoryWaveChild"));
-        child->show();
-    } else {
-        window->setAttribute(Qt::WA_DeleteOnClose);
-        window->show();
-    }
+    ShowChildWindow(window, area, QStringLiteral("MemoryWaveChild"));
     return window;
 }
 

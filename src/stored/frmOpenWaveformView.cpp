@@ -1,8 +1,8 @@
 // frmOpenWaveform: the picture, its zoom and scroll bars, the steppers and the cursors.
 #include "stored/frmOpenWaveform.h"
 
-#include "platform/platform.h"
 #include "document/sheetstate.h"
+#include "platform/platform.h"
 #include "stored/memorysteps.h"
 #include "stored/memoryviewdraw.h"
 #include "text/language.h"
@@ -29,15 +29,6 @@ namespace {
 
 constexpr int StepRepeatMs = 200;
 constexpr int PaneGap = 4;
-
-Qt::CursorShape pointerOf(PointerShape shape)
-{
-    switch (shape) {
-    case PointerShape::EastWest: return Qt::SizeHorCursor;
-    case PointerShape::NorthSouth: return Qt::SizeVerCursor;
-    default: return Qt::ArrowCursor;
-    }
-}
 
 bool isTimeTarget(int target)
 {
@@ -263,7 +254,7 @@ void frmOpenWaveform::MemoryWavePic_MouseMove(QPointF at)
 {
     const bool shown = cursors_.CursorXShown || cursors_.CursorYShown;
     if (shown && DragCursors(cursors_, at) && !firstLayout_) showCursors();
-    MemoryWavePic->setCursor(pointerOf(PointerShapeAt(cursors_, at, geometry())));
+    MemoryWavePic->setCursor(PointerCursor(PointerShapeAt(cursors_, at, geometry())));
 }
 
 void frmOpenWaveform::MemoryWavePic_MouseUp()

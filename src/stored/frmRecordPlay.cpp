@@ -1,6 +1,7 @@
 // frmRecordPlay: the window's controls, captions and lifecycle.
 #include "stored/frmRecordPlay.h"
 
+#include "document/childwindowwidgets.h"
 #include "stored/rcdfile.h"
 #include "stored/recordplaydraw.h"
 #include "stored/recordslot.h"
@@ -220,15 +221,8 @@ frmRecordPlay* CreateRecordPlayWindow(QMdiArea* area, int slot)
     if (!RecordSlotAt(slot)) return nullptr;
     auto* window = new frmRecordPlay(slot);
     window->setWindowTitle(RecordCaption(RecordSlots[size_t(slot)]));
-    if (area) {
-        QMdiSubWindow* child = area->addSubWindow(window);
-        child->setObjectName(QStringLiteral("RecordPlayChild"));
+    if (QMdiSubWindow* child = ShowChildWindow(window, area, QStringLiteral("RecordPlayChild")))
         child->resize(child->sizeHint());
-        child->show();
-    } else {
-        window->setAttribute(Qt::WA_DeleteOnClose);
-        window->show();
-    }
     return window;
 }
 

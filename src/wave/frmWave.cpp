@@ -2,6 +2,7 @@
 
 #include "acquire/operation.h"
 #include "acquire/waverecord.h"
+#include "document/childwindowwidgets.h"
 #include "document/sheetstate.h"
 #include "link/linkstate.h"
 #include "text/captionwidgets.h"
@@ -105,18 +106,11 @@ void frmWave::buildControls()
 {
     auto* side = buildSidePanel();
     side->setGeometry(0, 0, PaneLeft, 2000);
-    BackPic = named(new QFrame(this), "BackPic");
-    BackPic->setFrameShape(QFrame::Box);
-    BackPic->setAutoFillBackground(true);
-    WavePic = named(new WavePicture(BackPic), "WavePic");
-    WavePic->resize(PictureSizeAt(1.0)); // the cursors' start values are for this size
-    HScroll = named(new QScrollBar(Qt::Horizontal, this), "HScroll");
-    VScroll = named(new QScrollBar(Qt::Vertical, this), "VScroll");
-    for (QScrollBar* bar : {HScroll, VScroll}) {
-        bar->setRange(0, 100);
-        bar->setPageStep(10);
-        bar->hide();
-    }
+    const PictureArea area = BuildPictureArea(this, QStringLiteral("WavePic"));
+    BackPic = area.BackPic;
+    WavePic = area.picture;
+    HScroll = area.HScroll;
+    VScroll = area.VScroll;
     picRefreshProgress = named(new QFrame(BackPic), "picRefreshProgress");
     picRefreshProgress->setAutoFillBackground(true);
     picRefreshProgress->resize(200, 14);
@@ -322,15 +316,9 @@ frmWave* CreateWaveWindow(QMdiArea* area, int slot)
     if (!validSlot(slot)) return nullptr;
     auto* window = new frmWave(slot);
     window->setWindowTitle(WaveRecords[slot].WaveTitle);
-    if (area) {
-        QMdiSubWindow* child = area->addSubWindow(window);
-        child->setObjectName(QStringLiteral("WaveChild"));
+    // Closing runs the window's unload rules and lets the sub-window go.
+    if (QMdiSubWindow* child = ShowChildWindow(window, area, QStringLiteral("WaveChild")))
         child->setAttribute(Qt::WA_DeleteOnClose);
-        child->show();
-    } else {
-        window->setAttribute(Qt::WA_DeleteOnClose);
-        window->show();
-    }
     return window;
 }
 

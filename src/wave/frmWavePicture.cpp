@@ -1,7 +1,11 @@
 #include "wave/frmWavePicture.h"
 
+#include "wave/wavelayout.h"
+
+#include <QFrame>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 WavePicture::WavePicture(QWidget* parent) : QWidget(parent)
 {
@@ -35,4 +39,35 @@ void WavePicture::mouseMoveEvent(QMouseEvent* event)
 void WavePicture::mouseReleaseEvent(QMouseEvent* event)
 {
     Q_EMIT released(event->position(), event->buttons());
+}
+
+PictureArea BuildPictureArea(QWidget* window, const QString& pictureName)
+{
+    PictureArea area;
+    area.BackPic = new QFrame(window);
+    area.BackPic->setObjectName(QStringLiteral("BackPic"));
+    area.BackPic->setFrameShape(QFrame::Box);
+    area.BackPic->setAutoFillBackground(true);
+    area.picture = new WavePicture(area.BackPic);
+    area.picture->setObjectName(pictureName);
+    area.picture->resize(PictureSizeAt(1.0));
+    area.HScroll = new QScrollBar(Qt::Horizontal, window);
+    area.HScroll->setObjectName(QStringLiteral("HScroll"));
+    area.VScroll = new QScrollBar(Qt::Vertical, window);
+    area.VScroll->setObjectName(QStringLiteral("VScroll"));
+    for (QScrollBar* bar : {area.HScroll, area.VScroll}) {
+        bar->setRange(0, 100);
+        bar->setPageStep(10);
+        bar->hide();
+    }
+    return area;
+}
+
+Qt::CursorShape PointerCursor(PointerShape shape)
+{
+    switch (shape) {
+    case PointerShape::EastWest: return Qt::SizeHorCursor;
+    case PointerShape::NorthSouth: return Qt::SizeVerCursor;
+    default: return Qt::ArrowCursor;
+    }
 }

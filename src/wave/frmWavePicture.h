@@ -2,8 +2,13 @@
 // The picture control of a wave window: shows the drawn image at its own size
 // and reports the mouse in the image's pixels, so the cursors can be dragged.
 
+#include "wave/cursormouse.h"
+
 #include <QImage>
 #include <QWidget>
+
+class QFrame;
+class QScrollBar;
 
 class WavePicture : public QWidget {
     Q_OBJECT
@@ -27,3 +32,18 @@ class WavePicture : public QWidget {
   private:
     QImage image_;
 };
+
+// The picture area that the wave view and the memory view share: a framed back
+// pane holding the picture at its size for zoom 1 (the cursors' start values
+// are for that size), and the two scroll bars, hidden until the picture
+// outgrows the pane. Every control is named for the window's tests.
+struct PictureArea {
+    QFrame* BackPic = nullptr;
+    WavePicture* picture = nullptr;
+    QScrollBar* HScroll = nullptr;
+    QScrollBar* VScroll = nullptr;
+};
+PictureArea BuildPictureArea(QWidget* window, const QString& pictureName);
+
+// The mouse pointer over the picture for the cursor handle under it.
+Qt::CursorShape PointerCursor(PointerShape shape);

@@ -26,15 +26,6 @@
 
 namespace {
 
-Qt::CursorShape pointerOf(PointerShape shape)
-{
-    switch (shape) {
-    case PointerShape::EastWest: return Qt::SizeHorCursor;
-    case PointerShape::NorthSouth: return Qt::SizeVerCursor;
-    default: return Qt::ArrowCursor;
-    }
-}
-
 } // namespace
 
 void frmWave::resizeEvent(QResizeEvent* event)
@@ -196,7 +187,7 @@ void frmWave::WavePic_MouseMove(QPointF at)
     const CursorGeometry geometry{Zoom, record().SplitScreen};
     const bool shown = cursors_.CursorXShown || cursors_.CursorYShown;
     if (shown && DragCursors(cursors_, at) && !firstRun_) showCursors();
-    WavePic->setCursor(pointerOf(PointerShapeAt(cursors_, at, geometry)));
+    WavePic->setCursor(PointerCursor(PointerShapeAt(cursors_, at, geometry)));
 }
 
 void frmWave::WavePic_MouseUp()

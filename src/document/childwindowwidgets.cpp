@@ -1,0 +1,17 @@
+#include "document/childwindowwidgets.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+QMdiSubWindow* ShowChildWindow(QWidget* window, QMdiArea* area, const QString& childName)
+{
+    if (!area) {
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->show();
+        return nullptr;
+    }
+    QMdiSubWindow* child = area->addSubWindow(window);
+    child->setObjectName(childName);
+    child->show();
+    return child;
+}
