@@ -8,10 +8,8 @@ cd "$(dirname "$0")/.."
 out="$(realpath -m "${1:?usage: tools/memory_screenshot.sh OUT.png [BUILD_DIR] [flags]}")"
 build="${2:-build}"
 shift $(( $# > 1 ? 2 : 1 ))
-for p in "$build/tools/selvane-sheetshot" "$build/sim/kv7200b-sim"; do
-    [ -x "$p" ] || { echo "no program at $p; build first" >&2; exit 1; }
-done
-command -v xvfb-run >/dev/null || { echo "xvfb-run is missing (apt-get install xvfb xauth)" >&2; exit 1; }
+source tools/shotsetup.sh
+shot_require "$build/tools/selvane-sheetshot" "$build/sim/kv7200b-sim"
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
 "$build/sim/kv7200b-sim" write-wfm "$work/stored.wfm" "$@"

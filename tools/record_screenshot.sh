@@ -7,10 +7,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 out="$(realpath -m "${1:?usage: tools/record_screenshot.sh OUT.png [BUILD_DIR]}")"
 build="${2:-build}"
-for p in "$build/tools/selvane-sheetshot" "$build/sim/kv7200b-sim"; do
-    [ -x "$p" ] || { echo "no program at $p; build first" >&2; exit 1; }
-done
-command -v xvfb-run >/dev/null || { echo "xvfb-run is missing (apt-get install xvfb xauth)" >&2; exit 1; }
+source tools/shotsetup.sh
+shot_require "$build/tools/selvane-sheetshot" "$build/sim/kv7200b-sim"
 
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
