@@ -38,21 +38,22 @@ class HeadlessProgress : public ProgressView {
 HeadlessProgress headless;
 ProgressView* installed = nullptr;
 
-std::map<int, OperationRoutine>& routines()
-{
-    static std::map<int, OperationRoutine> table;
-    return table;
-}
-
 const QString tableSources[] = {QStringLiteral("CH1"), QStringLiteral("CH2"), QStringLiteral("CH3"),
                                 QStringLiteral("CH4"), QStringLiteral("LA")};
 
-bool runDefault(int code)
+// The readings this folder owns, registered like every other subsystem's.
+std::map<int, OperationRoutine> ownRoutines()
 {
-    if (code == OperationWaveWindow) return ReadWaveWindow();
-    if (code >= OperationTableCH1 && code <= OperationTableLa)
-        return ReadDataTable(tableSources[code - OperationTableCH1]);
-    return false;
+    std::map<int, OperationRoutine> own{{OperationWaveWindow, [] { return ReadWaveWindow(); }}};
+    for (int code = OperationTableCH1; code <= OperationTableLa; ++code)
+        own[code] = [code] { return ReadDataTable(tableSources[code - OperationTableCH1]); };
+    return own;
+}
+
+std::map<int, OperationRoutine>& routines()
+{
+    static std::map<int, OperationRoutine> table = ownRoutines();
+    return table;
 }
 
 } // namespace
@@ -86,17 +87,22 @@ void ProgressTimerTick()
 
 void SetOperationRoutine(int code, OperationRoutine routine)
 {
-    if (routine)
-        routines()[code] = std::move(routine);
-    else
-        routines().erase(code);
+    if (!routine) {
+        const std::map<int, OperationRoutine> own = ownRoutines();
+        const auto found = own.find(code);
+        if (found == own.end()) {
+            routines().erase(code);
+            return;
+        }
+        routine = found->second;
+    }
+    routines()[code] = std::move(routine);
 }
 
 bool RunOperation(int code)
 {
     const auto found = routines().find(code);
-    if (found != routines().end()) return found->second();
-    return runDefault(code);
+    return found != routines().end() && found->second();
 }
 
 void BeginReadingFrame()

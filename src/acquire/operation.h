@@ -61,9 +61,10 @@ void ProgressTimerTick();
 // An operation's work. false: it ended by its error path (an index beyond a
 // bound); the frame's closing steps run all the same.
 using OperationRoutine = std::function<bool()>;
-// Installs the routine of an operation code (measures, upload, download are
-// installed by their subsystems); an empty routine puts the default back. The
-// defaults are the wave window's reading (10) and the data tables (5 to 9).
+// Installs the routine of an operation code: each subsystem registers its own
+// (the wave window's reading 10 and the data tables 5 to 9 come with this
+// folder; measures, upload and download with theirs). An empty routine puts
+// this folder's own back, or removes the code.
 void SetOperationRoutine(int code, OperationRoutine routine);
 // Runs the operation of code; false for its error path or an unknown code.
 bool RunOperation(int code);
