@@ -5,7 +5,7 @@
 #include "wave/cursordrawing.h"
 #include "wave/cursormouse.h"
 #include "wave/qimagesurface.h"
-#include "wave/wavedrawing.h"
+#include "wave/wavecanvas.h"
 #include "wave/wavepicture.h"
 
 #include <benchmark/benchmark.h>

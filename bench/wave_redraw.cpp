@@ -4,7 +4,7 @@
 #include "acquire/blockplacement.h"
 #include "acquire/waveparameter.h"
 #include "wave/qimagesurface.h"
-#include "wave/wavedrawing.h"
+#include "wave/wavecanvas.h"
 #include "wave/wavepicture.h"
 
 #include <benchmark/benchmark.h>

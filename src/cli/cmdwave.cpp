@@ -8,7 +8,7 @@
 #include "link/timeouttimer.h"
 #include "link/vocabulary.h"
 #include "wave/qimagesurface.h"
-#include "wave/wavedrawing.h"
+#include "wave/wavecanvas.h"
 #include "wave/wavepicture.h"
 
 #include <QCommandLineParser>

@@ -2,9 +2,13 @@
 
 #include "stored/memorysteps.h"
 #include "wave/alternation.h"
+#include "wave/drawgrid.h"
+#include "wave/drawmarker.h"
+#include "wave/drawosc.h"
+#include "wave/drawtimemarker.h"
+#include "wave/drawtrace.h"
 #include "wave/qimagesurface.h"
 #include "wave/wavecolors.h"
-#include "wave/wavedrawing.h"
 #include "wave/wavelayout.h"
 
 namespace {

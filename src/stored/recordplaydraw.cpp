@@ -3,9 +3,11 @@
 #include "acquire/waverecord.h"
 #include "stored/rcdfile.h"
 #include "stored/recordslot.h"
+#include "wave/drawgrid.h"
+#include "wave/drawmarker.h"
+#include "wave/drawtimemarker.h"
 #include "wave/qimagesurface.h"
 #include "wave/wavecolors.h"
-#include "wave/wavedrawing.h"
 
 #include <cmath>
 

@@ -1,6 +1,8 @@
 // The background: frame, centre cross, ticks, dotted grid and the maker text.
+
+#include "wave/drawgrid.h"
+
 #include "wave/wavecolors.h"
-#include "wave/wavedrawing.h"
 
 namespace {
 

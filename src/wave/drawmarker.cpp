@@ -1,9 +1,11 @@
 // The channel marker: an arrow at the channel's zero row, or a clipped arrow at
 // the edge when the zero row lies outside the picture, and the channel legend.
+
+#include "wave/drawmarker.h"
+
 #include "acquire/waverecord.h"
 #include "text/valuetext.h"
 #include "wave/displaytexts.h"
-#include "wave/wavedrawing.h"
 
 #include <array>
 

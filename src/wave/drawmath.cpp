@@ -1,9 +1,11 @@
 // The math trace, the spectrum, and their marker and legends.
+
+#include "wave/drawmath.h"
+
 #include "text/formatmask.h"
 #include "text/valuetext.h"
 #include "wave/alternation.h"
 #include "wave/tracerun.h"
-#include "wave/wavedrawing.h"
 
 #include <algorithm>
 

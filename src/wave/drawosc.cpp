@@ -1,7 +1,14 @@
 // Everything on the picture but the background, from a finished reading.
+
+#include "wave/drawosc.h"
+
 #include "wave/alternation.h"
+#include "wave/drawmarker.h"
+#include "wave/drawmath.h"
+#include "wave/drawtimemarker.h"
+#include "wave/drawtrace.h"
+#include "wave/drawxy.h"
 #include "wave/wavecolors.h"
-#include "wave/wavedrawing.h"
 
 namespace {
 

@@ -1,8 +1,10 @@
 // The trigger-position markers on the top edge of each time base, and the
 // delay and time scale legends.
+
+#include "wave/drawtimemarker.h"
+
 #include "text/valuetext.h"
 #include "wave/wavecolors.h"
-#include "wave/wavedrawing.h"
 
 #include <optional>
 

@@ -1,6 +1,8 @@
 // Ordinary and peak-detect channel traces.
+
+#include "wave/drawtrace.h"
+
 #include "wave/tracerun.h"
-#include "wave/wavedrawing.h"
 
 namespace {
 

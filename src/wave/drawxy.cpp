@@ -1,7 +1,9 @@
 // The X-Y picture: one dot per point, CH1 across and CH2 down.
+
+#include "wave/drawxy.h"
+
 #include "wave/tracerun.h"
 #include "wave/wavecolors.h"
-#include "wave/wavedrawing.h"
 
 void DrawXyTrace(const WaveCanvas& canvas, const WaveArray& ch1, const WaveArray& ch2, int points)
 {

@@ -1,8 +1,9 @@
 #include "wave/wavepicture.h"
 
 #include "link/devicefacts.h"
+#include "wave/drawgrid.h"
+#include "wave/drawosc.h"
 #include "wave/wavecanvas.h"
-#include "wave/wavedrawing.h"
 
 #include <cmath>
 

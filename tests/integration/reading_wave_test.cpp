@@ -8,8 +8,8 @@
 #include "acquire/waverecord.h"
 #include "link/linkcommands.h"
 #include "link/linkstate.h"
+#include "wave/drawosc.h"
 #include "wave/recordingsurface.h"
-#include "wave/wavedrawing.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "drawtesting.h"
+#include "wave/drawgrid.h"
 #include "wave/wavecolors.h"
-#include "wave/wavedrawing.h"
 
 namespace {
 

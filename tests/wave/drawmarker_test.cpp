@@ -1,5 +1,5 @@
 #include "drawtesting.h"
-#include "wave/wavedrawing.h"
+#include "wave/drawmarker.h"
 
 #include <QFile>
 #include <QTextStream>
@@ -31,8 +31,8 @@ TEST(DrawChannelMarker, ShapeDigitAndLegendOfEveryCase)
         const int channel = f[1].toInt();
         const QByteArray pair = f[6] == QLatin1String("-") ? QByteArray() : f[6].toLatin1();
         RecordingSurface s;
-        DrawChannelMarker(PairCanvas(s, f[7].toDouble(), pair.constData()), channel, f[2], QStringLiteral("1.00V"), f[3], f[4],
-                          int8_t(f[5].toInt()));
+        DrawChannelMarker(PairCanvas(s, f[7].toDouble(), pair.constData()), channel, f[2],
+                          QStringLiteral("1.00V"), f[3], f[4], int8_t(f[5].toInt()));
         EXPECT_EQ(PathOf(s.calls()), Closed(shape(f[8], f[9].toDouble())));
         const std::vector<SurfaceCall> texts = TextsOf(s);
         ASSERT_EQ(texts.size(), 2u);

@@ -1,5 +1,6 @@
 #include "drawtesting.h"
-#include "wave/wavedrawing.h"
+#include "wave/drawgrid.h"
+#include "wave/drawosc.h"
 
 #include <functional>
 

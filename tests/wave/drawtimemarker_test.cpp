@@ -1,5 +1,5 @@
 #include "drawtesting.h"
-#include "wave/wavedrawing.h"
+#include "wave/drawtimemarker.h"
 
 namespace {
 
