@@ -1,3 +1,4 @@
+#include "cli/clihelp.h"
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
 
@@ -19,11 +20,12 @@ int RunUploadCommand(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         "Connects, reads a control file (--in FILE.rmt) and sends every setting in it\n"
-        "to the instrument as the Upload button does. Exit 3 when the file is refused.");
-    parser.addHelpOption();
+        "to the instrument as the Upload button does.");
     AddLinkOptions(parser);
     parser.addOption({"in", "The control file to send.", "file"});
-    parser.process(arguments);
+    ProcessSubcommand(parser, arguments, "upload",
+                      "0  every setting was sent\n2  a usage error, or no instrument answered\n3  the "
+                      "control file was refused");
     LinkOptions options;
     if (!TakeLinkOptions(parser, QStringLiteral("upload"), options)) return ExitUsage;
     const QString in = parser.value("in");

@@ -1,5 +1,6 @@
 // selvane-cli wfm: a waveform file through the memory view's own reader, to
 // JSON, CSV or a picture; or a batch of files to CSV on all cores.
+#include "cli/clihelp.h"
 #include "cli/clilanguage.h"
 #include "cli/subcommands.h"
 
@@ -38,18 +39,15 @@ bool parseWfmOptions(const QStringList& arguments, WfmOptions& options)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription("Loads waveform files as the memory wave window does.");
-    parser.addHelpOption();
     parser.addPositionalArgument("files", "The .wfm file (several with --csv-dir).", "FILE.wfm...");
     parser.addOption({"json", "Write the loaded slot as JSON.", "file"});
     parser.addOption({"csv", "Save the samples to CSV as the window does.", "file"});
     parser.addOption({"picture", "Draw the view as loaded (.png or .bmp).", "file"});
     parser.addOption({"csv-dir", "Convert every file given to DIR/NAME.csv, in parallel.", "dir"});
     AddLanguageOption(parser);
-    if (!parser.parse(arguments)) {
-        std::fprintf(stderr, "wfm: %s\n", qPrintable(parser.errorText()));
-        return false;
-    }
-    if (parser.isSet("help")) parser.showHelp(0);
+    ProcessSubcommand(parser, arguments, "wfm",
+                      "0  every file was loaded and written\n1  an output could not be written\n2  a usage "
+                      "error\n3  a file was refused");
     if (!TakeLanguageOption(parser, options.language)) return false;
     options.files = parser.positionalArguments();
     options.json = parser.value("json");
