@@ -5,9 +5,9 @@
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
-#include <QTemporaryDir>
 #include <cstdio>
-#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -55,14 +55,19 @@ QString subcommandList()
 }
 
 // Without XDG_RUNTIME_DIR (a service, a container, ssh without a session) Qt
-// warns on every start; a private one of our own keeps stderr for our messages.
-std::optional<QTemporaryDir> privateRuntimeDir()
+// warns on every start. A private folder of our own, kept between runs like
+// Qt's own fallback, keeps stderr for our messages; one we can't trust is left
+// to Qt.
+void setPrivateRuntimeDir()
 {
-    std::optional<QTemporaryDir> dir;
-    if (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) return dir;
-    dir.emplace(QDir::tempPath() + QStringLiteral("/selvane-cli-runtime-XXXXXX"));
-    if (dir->isValid()) qputenv("XDG_RUNTIME_DIR", QFile::encodeName(dir->path()));
-    return dir;
+    if (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) return;
+    const QByteArray path =
+        QFile::encodeName(QDir::tempPath()) + "/selvane-runtime-" + QByteArray::number(::getuid());
+    ::mkdir(path.constData(), 0700);
+    struct stat info = {};
+    if (::lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == ::getuid() &&
+        (info.st_mode & 0777) == 0700)
+        qputenv("XDG_RUNTIME_DIR", path);
 }
 
 int usageError(const QString& text)
@@ -77,7 +82,7 @@ int main(int argc, char** argv)
 {
     // Pictures are drawn with text, which needs a GUI application; no display is needed.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    const std::optional<QTemporaryDir> runtimeDir = privateRuntimeDir();
+    setPrivateRuntimeDir();
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName("selvane-cli");
     QCoreApplication::setApplicationVersion("00.01.05.00.00");
