@@ -1,5 +1,6 @@
 #include "cli/clihelp.h"
 #include "cli/clilink.h"
+#include "cli/progressline.h"
 #include "cli/subcommands.h"
 
 #include "acquire/operation.h"
@@ -39,7 +40,10 @@ int RunDownloadCommand(const QStringList& arguments)
     }
     ResetCtrlState(); // the New defaults in the chosen language
     InstallDownloadOperation();
-    RunReadingFrame(OperationDownload);
+    {
+        const ProgressLineView progress("download");
+        RunReadingFrame(OperationDownload);
+    }
     AfterDownload();
     CloseLink();
     return WriteCtrlFile(out) ? 0 : 2;

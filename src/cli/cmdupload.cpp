@@ -1,5 +1,6 @@
 #include "cli/clihelp.h"
 #include "cli/clilink.h"
+#include "cli/progressline.h"
 #include "cli/subcommands.h"
 
 #include "acquire/operation.h"
@@ -47,7 +48,10 @@ int RunUploadCommand(const QStringList& arguments)
     }
     BeforeUpload();
     InstallUploadOperation();
-    RunReadingFrame(OperationUpload);
+    {
+        const ProgressLineView progress("upload");
+        RunReadingFrame(OperationUpload);
+    }
     CloseLink();
     return ExitSent;
 }

@@ -2,6 +2,7 @@
 // JSON, CSV or a picture; or a batch of files to CSV on all cores.
 #include "cli/clihelp.h"
 #include "cli/clilanguage.h"
+#include "cli/progressline.h"
 #include "cli/subcommands.h"
 
 #include "stored/memoryviewdraw.h"
@@ -15,6 +16,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QScopeGuard>
 #include <algorithm>
 #include <atomic>
 #include <charconv>
@@ -214,9 +216,15 @@ int runBatch(const WfmOptions& options)
     }
     std::atomic<qsizetype> next{0};
     std::atomic<bool> refused{false}, failed{false};
-    std::mutex report;
+    std::mutex report; // guards stderr and the progress line
+    ProgressLine progress("wfm");
+    qsizetype done = 0;
     const auto work = [&] {
         for (qsizetype k = next++; k < options.files.size(); k = next++) {
+            const auto finished = qScopeGuard([&] {
+                const std::lock_guard lock(report);
+                progress.show(int(++done * 100 / options.files.size()));
+            });
             const QString& path = options.files.at(k);
             MemoryWaveSlot slot;
             int code = 0;
@@ -226,6 +234,7 @@ int runBatch(const WfmOptions& options)
             if (!problem.isEmpty()) {
                 refused = true;
                 const std::lock_guard lock(report);
+                progress.interrupt();
                 std::fprintf(stderr, "%s: %s\n", qPrintable(path), qPrintable(problem));
                 continue;
             }
@@ -234,6 +243,7 @@ int runBatch(const WfmOptions& options)
             if (error.isEmpty()) continue;
             failed = true;
             const std::lock_guard lock(report);
+            progress.interrupt();
             std::fprintf(stderr, "wfm: can't write %s: %s\n", qPrintable(out), qPrintable(error));
         }
     };
