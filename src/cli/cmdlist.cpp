@@ -50,9 +50,10 @@ int RunListCommand(const QStringList& arguments)
     selvaneVisaSetConfiguredResources(extra);
 
     const ScpiResourceManager manager;
-    int answered = 0;
+    int answered = 0, found = 0;
     for (const QString& name : manager.find("?*")) {
         if (isSerial(name) && !parser.isSet("serial")) continue;
+        ++found;
         ScpiSession session(manager, name, timeout, baud);
         const ScpiReply reply = session.isOpen() && session.send("*IDN?") ? session.read() : ScpiReply{};
         if (reply.answered && !reply.block) {
@@ -63,5 +64,6 @@ int RunListCommand(const QStringList& arguments)
         }
         std::fflush(stdout);
     }
+    if (found == 0) std::fputs("list: no resources found\n", stderr);
     return answered > 0 ? ExitAnswered : ExitNoAnswer;
 }
