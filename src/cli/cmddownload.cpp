@@ -1,4 +1,6 @@
+#include "cli/clihelp.h"
 #include "cli/clilink.h"
+#include "cli/progressline.h"
 #include "cli/subcommands.h"
 
 #include "acquire/operation.h"
@@ -17,10 +19,11 @@ int RunDownloadCommand(const QStringList& arguments)
     parser.setApplicationDescription(
         "Connects, reads every setting of the instrument as the Download button does\n"
         "and writes them as a control file (--out FILE.rmt).");
-    parser.addHelpOption();
     AddLinkOptions(parser);
     parser.addOption({"out", "The control file to write.", "file"});
-    parser.process(arguments);
+    ProcessSubcommand(parser, arguments, "download",
+                      "0  the control file was written\n2  a usage error, no instrument answered, or the "
+                      "file could not be written");
     LinkOptions options;
     if (!TakeLinkOptions(parser, QStringLiteral("download"), options)) return 2;
     const QString out = parser.value("out");
@@ -37,7 +40,10 @@ int RunDownloadCommand(const QStringList& arguments)
     }
     ResetCtrlState(); // the New defaults in the chosen language
     InstallDownloadOperation();
-    RunReadingFrame(OperationDownload);
+    {
+        const ProgressLineView progress("download");
+        RunReadingFrame(OperationDownload);
+    }
     AfterDownload();
     CloseLink();
     return WriteCtrlFile(out) ? 0 : 2;

@@ -1,3 +1,4 @@
+#include "cli/clihelp.h"
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
 
@@ -16,9 +17,9 @@ int RunIdnCommand(const QStringList& arguments)
         "Connects to the instrument as the program does and prints its identity.\n"
         "A SOCKET resource is opened only when the find lists an instrument: give one\n"
         "more --resource (or SELVANE_VISA_RESOURCES) naming an INSTR resource.");
-    parser.addHelpOption();
     AddLinkOptions(parser);
-    parser.process(arguments);
+    ProcessSubcommand(parser, arguments, "idn",
+                      "0  the identity was printed\n1  no instrument answered\n2  a usage error");
     LinkOptions options;
     if (!TakeLinkOptions(parser, QStringLiteral("idn"), options)) return 2;
 

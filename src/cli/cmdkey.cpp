@@ -1,3 +1,4 @@
+#include "cli/clihelp.h"
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
 
@@ -36,10 +37,11 @@ int RunKeyCommand(const QStringList& arguments)
     parser.setApplicationDescription(
         "Presses front-panel keys as the virtual keyboard does, in the order given.\n"
         "NAME@TICKS holds a repeat key for that many ticks of 200 ms.");
-    parser.addHelpOption();
     AddLinkOptions(parser);
     parser.addPositionalArgument("keys", "Controls such as VK_Run or VK_V_Pos_Inc_2@10.", "NAME[@TICKS]...");
-    parser.process(arguments);
+    ProcessSubcommand(
+        parser, arguments, "key",
+        "0  every key was sent\n1  no instrument answered, or the link was lost\n2  a usage error");
     LinkOptions options;
     if (!TakeLinkOptions(parser, QStringLiteral("key"), options)) return 2;
     QList<KeyPress> presses;

@@ -1,3 +1,4 @@
+#include "cli/clihelp.h"
 #include "cli/clilanguage.h"
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
@@ -53,13 +54,13 @@ bool parseMeasureOptions(const QStringList& arguments, MeasureOptions& options)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         "Reads one channel's eighteen measurements, judges them and writes the export.");
-    parser.addHelpOption();
     AddLinkOptions(parser);
-    AddLanguageOption(parser);
     parser.addOption({"channel", "1 to 4.", "n"});
     parser.addOption({"limit", "NAME=UNDER:OVER in volts, seconds, hertz or percent; repeated.", "limit"});
     parser.addOption({"out", "Text file to write.", "file"});
-    parser.process(arguments);
+    ProcessSubcommand(parser, arguments, "measure",
+                      "0  every limited item passed\n1  a limited item failed\n2  a usage error, no "
+                      "instrument answered, or the file could not be written");
     if (!TakeLinkOptions(parser, "measure", options.link)) return false;
     if (!TakeLanguageOption(parser, options.language)) return false;
     bool channelOk = false;

@@ -1,3 +1,4 @@
+#include "cli/clihelp.h"
 #include "cli/clilanguage.h"
 #include "cli/subcommands.h"
 
@@ -40,14 +41,15 @@ bool parseRcdOptions(const QStringList& arguments, RcdOptions& options)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription("Loads a record file and writes its fields and frames.");
-    parser.addHelpOption();
     parser.addPositionalArgument("file", "The record file (.rcd).");
     parser.addOption({"json", "Write the loaded slot's fields as JSON.", "file"});
     parser.addOption({"frame", "The frame (from 1) that --picture draws.", "k", "1"});
     parser.addOption({"picture", "Write the frame as a picture (.png or .bmp).", "file"});
     parser.addOption({"frames-dir", "Write every frame as a numbered PNG into the folder.", "dir"});
     AddLanguageOption(parser);
-    parser.process(arguments);
+    ProcessSubcommand(parser, arguments, "rcd",
+                      "0  the file was loaded and written\n1  an output could not be written\n2  a usage "
+                      "error\n3  the file was refused");
     if (!TakeLanguageOption(parser, options.language)) return false;
     if (parser.positionalArguments().size() != 1) return usage("one record file is needed");
     options.file = parser.positionalArguments().first();

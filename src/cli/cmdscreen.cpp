@@ -1,3 +1,4 @@
+#include "cli/clihelp.h"
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
 
@@ -35,10 +36,11 @@ int RunScreenCommand(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription("Reads the instrument's screen picture (VISA only) and writes it.");
-    parser.addHelpOption();
     AddLinkOptions(parser);
     parser.addOption({"out", "Picture to write: .bmp as received, or .png.", "file"});
-    parser.process(arguments);
+    ProcessSubcommand(
+        parser, arguments, "screen",
+        "0  the picture was written\n1  no whole picture came, or it could not be written\n2  a usage error");
     LinkOptions options;
     if (!TakeLinkOptions(parser, QStringLiteral("screen"), options)) return 2;
     const QString out = parser.value("out");

@@ -1,3 +1,4 @@
+#include "cli/clihelp.h"
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
 
@@ -45,12 +46,13 @@ int RunSetCommand(const QStringList& arguments)
     parser.setApplicationDescription(
         "Connects, downloads, and changes one setting by its tree path in the language\n"
         "in force (\"Time Base\\Time/Div\") the way the value editor does; prints the\n"
-        "node's new text. Exit 3 when the node refuses the value.");
-    parser.addHelpOption();
+        "node's new text.");
     AddLinkOptions(parser);
     parser.addPositionalArgument("path", "Tree path below the root, parts joined by \\.");
     parser.addPositionalArgument("value", "A list value or a number text.");
-    parser.process(arguments);
+    ProcessSubcommand(parser, arguments, "set",
+                      "0  the setting was changed and its new text printed\n2  a usage error, or no "
+                      "instrument answered\n3  the node refused the value");
     LinkOptions options;
     if (!TakeLinkOptions(parser, QStringLiteral("set"), options)) return ExitUsage;
     const QStringList positional = parser.positionalArguments();

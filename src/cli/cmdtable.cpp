@@ -1,3 +1,4 @@
+#include "cli/clihelp.h"
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
 
@@ -24,11 +25,12 @@ bool parseTableOptions(const QStringList& arguments, TableOptions& options)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription("Reads one channel as a data table and writes its export text.");
-    parser.addHelpOption();
     AddLinkOptions(parser);
     parser.addOption({"channel", "CH1 to CH4.", "channel", "CH1"});
     parser.addOption({"out", "Text file to write.", "file"});
-    parser.process(arguments);
+    ProcessSubcommand(parser, arguments, "table",
+                      "0  the export text was written\n1  no instrument answered, or the file could not be "
+                      "written\n2  a usage error");
     if (!TakeLinkOptions(parser, "table", options.link)) return false;
     options.channel = parser.value("channel").toUpper();
     options.out = parser.value("out");

@@ -1,4 +1,6 @@
+#include "cli/clihelp.h"
 #include "cli/clilink.h"
+#include "cli/progressline.h"
 #include "cli/subcommands.h"
 
 #include "acquire/operation.h"
@@ -19,11 +21,12 @@ int RunUploadCommand(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         "Connects, reads a control file (--in FILE.rmt) and sends every setting in it\n"
-        "to the instrument as the Upload button does. Exit 3 when the file is refused.");
-    parser.addHelpOption();
+        "to the instrument as the Upload button does.");
     AddLinkOptions(parser);
     parser.addOption({"in", "The control file to send.", "file"});
-    parser.process(arguments);
+    ProcessSubcommand(parser, arguments, "upload",
+                      "0  every setting was sent\n2  a usage error, or no instrument answered\n3  the "
+                      "control file was refused");
     LinkOptions options;
     if (!TakeLinkOptions(parser, QStringLiteral("upload"), options)) return ExitUsage;
     const QString in = parser.value("in");
@@ -45,7 +48,10 @@ int RunUploadCommand(const QStringList& arguments)
     }
     BeforeUpload();
     InstallUploadOperation();
-    RunReadingFrame(OperationUpload);
+    {
+        const ProgressLineView progress("upload");
+        RunReadingFrame(OperationUpload);
+    }
     CloseLink();
     return ExitSent;
 }

@@ -1,3 +1,4 @@
+#include "cli/clihelp.h"
 #include "cli/clilink.h"
 #include "cli/subcommands.h"
 
@@ -48,14 +49,15 @@ bool parseWaveOptions(const QStringList& arguments, WaveOptions& options)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription("Reads one wave window snapshot and writes its picture.");
-    parser.addHelpOption();
     AddLinkOptions(parser);
     parser.addOption({"channels", "Channels to read, such as 1,2 (default: those shown).", "list"});
     parser.addOption({"zoom", "Zoom factor of the picture.", "factor", "1.0"});
     parser.addOption({"mono", "Black on white instead of colour on black."});
     parser.addOption({"grid", "Draw the dotted grid."});
     parser.addOption({"out", "Picture to write (.png or .bmp).", "file"});
-    parser.process(arguments);
+    ProcessSubcommand(parser, arguments, "wave",
+                      "0  the picture was written\n1  no instrument answered, or the picture could not be "
+                      "written\n2  a usage error");
     if (!TakeLinkOptions(parser, "wave", options.link)) return false;
     options.mono = parser.isSet("mono");
     options.grid = parser.isSet("grid");

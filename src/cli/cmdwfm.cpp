@@ -1,6 +1,8 @@
 // selvane-cli wfm: a waveform file through the memory view's own reader, to
 // JSON, CSV or a picture; or a batch of files to CSV on all cores.
+#include "cli/clihelp.h"
 #include "cli/clilanguage.h"
+#include "cli/progressline.h"
 #include "cli/subcommands.h"
 
 #include "stored/memoryviewdraw.h"
@@ -14,6 +16,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QScopeGuard>
 #include <algorithm>
 #include <atomic>
 #include <charconv>
@@ -38,18 +41,15 @@ bool parseWfmOptions(const QStringList& arguments, WfmOptions& options)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription("Loads waveform files as the memory wave window does.");
-    parser.addHelpOption();
     parser.addPositionalArgument("files", "The .wfm file (several with --csv-dir).", "FILE.wfm...");
     parser.addOption({"json", "Write the loaded slot as JSON.", "file"});
     parser.addOption({"csv", "Save the samples to CSV as the window does.", "file"});
     parser.addOption({"picture", "Draw the view as loaded (.png or .bmp).", "file"});
     parser.addOption({"csv-dir", "Convert every file given to DIR/NAME.csv, in parallel.", "dir"});
     AddLanguageOption(parser);
-    if (!parser.parse(arguments)) {
-        std::fprintf(stderr, "wfm: %s\n", qPrintable(parser.errorText()));
-        return false;
-    }
-    if (parser.isSet("help")) parser.showHelp(0);
+    ProcessSubcommand(parser, arguments, "wfm",
+                      "0  every file was loaded and written\n1  an output could not be written\n2  a usage "
+                      "error\n3  a file was refused");
     if (!TakeLanguageOption(parser, options.language)) return false;
     options.files = parser.positionalArguments();
     options.json = parser.value("json");
@@ -216,9 +216,15 @@ int runBatch(const WfmOptions& options)
     }
     std::atomic<qsizetype> next{0};
     std::atomic<bool> refused{false}, failed{false};
-    std::mutex report;
+    std::mutex report; // guards stderr and the progress line
+    ProgressLine progress("wfm");
+    qsizetype done = 0;
     const auto work = [&] {
         for (qsizetype k = next++; k < options.files.size(); k = next++) {
+            const auto finished = qScopeGuard([&] {
+                const std::lock_guard lock(report);
+                progress.show(int(++done * 100 / options.files.size()));
+            });
             const QString& path = options.files.at(k);
             MemoryWaveSlot slot;
             int code = 0;
@@ -228,6 +234,7 @@ int runBatch(const WfmOptions& options)
             if (!problem.isEmpty()) {
                 refused = true;
                 const std::lock_guard lock(report);
+                progress.interrupt();
                 std::fprintf(stderr, "%s: %s\n", qPrintable(path), qPrintable(problem));
                 continue;
             }
@@ -236,6 +243,7 @@ int runBatch(const WfmOptions& options)
             if (error.isEmpty()) continue;
             failed = true;
             const std::lock_guard lock(report);
+            progress.interrupt();
             std::fprintf(stderr, "wfm: can't write %s: %s\n", qPrintable(out), qPrintable(error));
         }
     };

@@ -2,8 +2,12 @@
 #include "platform/cliplatform.h"
 
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <cstdio>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -27,6 +31,9 @@ constexpr Subcommand subcommands[] = {
     {"wfm", "Load waveform files as the memory wave window does; JSON, CSV, picture or a CSV batch.",
      RunWfmCommand},
     {"rcd", "Load a record file and write its fields, one frame or every frame as pictures.", RunRcdCommand},
+    {"list", "List the VISA resources found and the identity of each that answers.", RunListCommand},
+    {"scpi", "Send commands to a resource and print the replies; from stdin when none are given.",
+     RunScpiCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)
@@ -39,10 +46,34 @@ const Subcommand* findSubcommand(const QStringList& arguments)
 
 QString subcommandList()
 {
-    QString text = QStringLiteral("\nSubcommands (each has --help):\n");
+    QString text = QStringLiteral("\n\nSubcommands (each has --help):\n");
     for (const Subcommand& command : subcommands)
-        text += QStringLiteral("  %1  %2\n").arg(QLatin1String(command.name), QLatin1String(command.summary));
+        text += QStringLiteral("  %1  %2\n")
+                    .arg(QLatin1String(command.name), -8)
+                    .arg(QLatin1String(command.summary));
     return text;
+}
+
+// Without XDG_RUNTIME_DIR (a service, a container, ssh without a session) Qt
+// warns on every start. A private folder of our own, kept between runs like
+// Qt's own fallback, keeps stderr for our messages; one we can't trust is left
+// to Qt.
+void setPrivateRuntimeDir()
+{
+    if (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) return;
+    const QByteArray path =
+        QFile::encodeName(QDir::tempPath()) + "/selvane-runtime-" + QByteArray::number(::getuid());
+    ::mkdir(path.constData(), 0700);
+    struct stat info = {};
+    if (::lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == ::getuid() &&
+        (info.st_mode & 0777) == 0700)
+        qputenv("XDG_RUNTIME_DIR", path);
+}
+
+int usageError(const QString& text)
+{
+    std::fprintf(stderr, "selvane-cli: %s\nTry 'selvane-cli --help'.\n", qPrintable(text));
+    return 2;
 }
 
 } // namespace
@@ -51,6 +82,7 @@ int main(int argc, char** argv)
 {
     // Pictures are drawn with text, which needs a GUI application; no display is needed.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    setPrivateRuntimeDir();
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName("selvane-cli");
     QCoreApplication::setApplicationVersion("00.01.05.00.00");
@@ -61,16 +93,27 @@ int main(int argc, char** argv)
         arguments.removeAt(1);
         return command->run(arguments);
     }
+    // "selvane-cli wfmx --help" is a mistyped subcommand, not a request for the general help.
+    if (arguments.size() > 1 && !arguments.at(1).startsWith(u'-'))
+        return usageError(QStringLiteral("unknown subcommand '%1'").arg(arguments.at(1)));
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        "Selvane without windows: the program's routines for scripts and test benches." + subcommandList());
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addPositionalArgument("subcommand", "One of the subcommands below.");
-    parser.process(app);
-    if (!parser.positionalArguments().isEmpty()) {
-        std::fprintf(stderr, "Unknown subcommand: %s\n", qPrintable(parser.positionalArguments().first()));
-        return 2;
+        "Selvane without windows: the program's routines for scripts and test benches." + subcommandList() +
+        "\nExit status: 0 done; 1 the instrument or a file failed; 2 a usage error;\n"
+        "3 a file or value was refused. Each subcommand's --help tells its own.");
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addPositionalArgument("subcommand", "One of the subcommands above.", "SUBCOMMAND [options]");
+    if (!parser.parse(arguments)) return usageError(parser.errorText());
+    if (parser.isSet(help) || parser.isSet(QStringLiteral("help-all"))) {
+        std::fputs(qPrintable(parser.helpText().replace(arguments.first(), QStringLiteral("selvane-cli"))),
+                   stdout);
+        return 0;
     }
-    return 0;
+    if (parser.isSet(version)) {
+        std::printf("selvane-cli %s\n", qPrintable(QCoreApplication::applicationVersion()));
+        return 0;
+    }
+    if (parser.positionalArguments().isEmpty()) return usageError(QStringLiteral("name a subcommand"));
+    return usageError(QStringLiteral("options go after the subcommand"));
 }

@@ -34,3 +34,10 @@ int RunWfmCommand(const QStringList& arguments);
 // one frame's picture (--frame K --picture FILE) or every frame (--frames-dir).
 // 0 loaded, 3 refused, 2 on a usage error, 1 when an output can't be written.
 int RunRcdCommand(const QStringList& arguments);
+// Lists the VISA resources our layer finds with the *IDN? of each that answers;
+// serial ports only with --serial. 0 when one answered, 1 when none, 2 usage.
+int RunListCommand(const QStringList& arguments);
+// Sends commands to one VISA resource and prints the replies, a block reply as
+// its length (or its bytes to --out); without commands reads them from stdin,
+// one a line. 0 when all went, 1 when one failed, 2 on a usage error.
+int RunScpiCommand(const QStringList& arguments);

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 
 int Language = LanguageEnglish;
 
@@ -31,9 +32,14 @@ QString HelpFileName(int language)
                                : QStringLiteral("KV7200help.html");
 }
 
+// Beside the program in the build tree; under the data folder when installed.
 QString HelpFilePath(int language)
 {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(HelpFileName(language));
+    const QDir programDir(QCoreApplication::applicationDirPath());
+    const QString beside = programDir.filePath(HelpFileName(language));
+    const QString installed = QDir::cleanPath(
+        programDir.filePath(QStringLiteral(SELVANE_HELP_FROM_BIN "/") + HelpFileName(language)));
+    return QFile::exists(beside) || !QFile::exists(installed) ? beside : installed;
 }
 
 void ResetLanguageState()

@@ -1,5 +1,5 @@
 // selvane-cli idn: the identity on stdout, or the box text on stderr and a
-// failing exit status. Qt may add its own warnings to stderr.
+// failing exit status.
 #include "link_simlink.h"
 
 #include <QProcess>
