@@ -27,6 +27,7 @@ constexpr Subcommand subcommands[] = {
     {"wfm", "Load waveform files as the memory wave window does; JSON, CSV, picture or a CSV batch.",
      RunWfmCommand},
     {"rcd", "Load a record file and write its fields, one frame or every frame as pictures.", RunRcdCommand},
+    {"sheet", "Load a data sheet file and write its windows as JSON or save it again.", RunSheetCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)

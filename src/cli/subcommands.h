@@ -34,3 +34,6 @@ int RunWfmCommand(const QStringList& arguments);
 // one frame's picture (--frame K --picture FILE) or every frame (--frames-dir).
 // 0 loaded, 3 refused, 2 on a usage error, 1 when an output can't be written.
 int RunRcdCommand(const QStringList& arguments);
+// Loads a data sheet file and writes its windows as JSON (--json) or saves it
+// again (--resave). 0 loaded, 3 refused or unreadable, 2 usage, 1 write failed.
+int RunSheetCommand(const QStringList& arguments);

@@ -1,0 +1,136 @@
+#include "cli/clilanguage.h"
+#include "cli/subcommands.h"
+
+#include "acquire/waverecord.h"
+#include "analysis/datarecord.h"
+#include "analysis/measurerecord.h"
+#include "document/sheetstate.h"
+#include "sheet/sheetfile.h"
+#include "stored/memorywaveslot.h"
+#include "stored/recordslot.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <cstdio>
+
+namespace {
+
+enum Exit : int { ExitLoaded = 0, ExitWriteFailed = 1, ExitUsage = 2, ExitRefused = 3 };
+
+struct SheetOptions {
+    QString file;
+    QString json;
+    QString resave;
+    int language = -1;
+};
+
+bool parseSheetOptions(const QStringList& arguments, SheetOptions& options)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Loads a data sheet file and writes what it holds.");
+    parser.addHelpOption();
+    parser.addPositionalArgument("file", "The data sheet file (.kvs).");
+    parser.addOption({"json", "Write the sheet's windows and their main fields as JSON.", "file"});
+    parser.addOption({"resave", "Save the loaded sheet again.", "file"});
+    AddLanguageOption(parser);
+    parser.process(arguments);
+    if (!TakeLanguageOption(parser, options.language)) return false;
+    if (parser.positionalArguments().size() != 1) {
+        std::fprintf(stderr, "sheet: one data sheet file is needed\n");
+        return false;
+    }
+    options.file = parser.positionalArguments().first();
+    options.json = parser.value("json");
+    options.resave = parser.value("resave");
+    return true;
+}
+
+QJsonObject windowJson(SheetKind kind, int slot)
+{
+    const auto at = std::size_t(slot);
+    QJsonObject json{{"kind", KindWindowName(kind)},
+                     {"title", SheetSlotNames[std::size_t(KindIndex(kind))].at(slot)}};
+    switch (kind) {
+    case SheetKind::Wave: {
+        const WaveRecord& wave = WaveRecords[at];
+        json.insert("HasData", wave.HasData);
+        json.insert("TriggerMode", wave.TriggerMode);
+        json.insert("TimeScaleText", wave.TimeScaleText);
+        json.insert("DateText", wave.DateText);
+        break;
+    }
+    case SheetKind::Measure: {
+        const MeasureRecord& measure = MeasureRecords[at];
+        json.insert("HasData", measure.HasData);
+        json.insert("Legend", measure.Legend);
+        QJsonArray values, judgements;
+        for (const MeasureItem& item : measure.Items) {
+            values.append(item.Value);
+            judgements.append(item.Judgement);
+        }
+        json.insert("Values", values);
+        json.insert("Judgements", judgements);
+        break;
+    }
+    case SheetKind::Data:
+        json.insert("HasData", DataRecords[at].HasData);
+        json.insert("Legend", DataRecords[at].Legend);
+        json.insert("Count", DataRecords[at].Count);
+        break;
+    case SheetKind::Record:
+        json.insert("HasData", RecordSlots[at].HasFile);
+        json.insert("FileName", RecordSlots[at].FileName);
+        json.insert("LastFrame", RecordSlots[at].LastFrame);
+        json.insert("PlayState", RecordSlots[at].PlayState);
+        break;
+    case SheetKind::MemoryWave:
+        json.insert("HasData", MemoryWaveSlots[at].HasData);
+        json.insert("FileName", MemoryWaveSlots[at].FileName);
+        json.insert("SampleCount", MemoryWaveSlots[at].SampleCount);
+        json.insert("SampleCountA", MemoryWaveSlots[at].SampleCountA);
+        json.insert("SampleCountB", MemoryWaveSlots[at].SampleCountB);
+        break;
+    }
+    return json;
+}
+
+QJsonObject sheetJson()
+{
+    QJsonObject counts;
+    QJsonArray windows;
+    for (SheetKind kind :
+         {SheetKind::Wave, SheetKind::Measure, SheetKind::Data, SheetKind::Record, SheetKind::MemoryWave}) {
+        const int count = int(SheetSlotNames[std::size_t(KindIndex(kind))].size());
+        counts.insert(KindWindowName(kind), count);
+        for (int slot = 0; slot < count; ++slot)
+            windows.append(windowJson(kind, slot));
+    }
+    return QJsonObject{{"name", DataSheetName}, {"counts", counts}, {"windows", windows}};
+}
+
+bool writeJson(const QString& path, const QJsonObject& json)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) &&
+        file.write(QJsonDocument(json).toJson(QJsonDocument::Indented)) >= 0 && file.commit())
+        return true;
+    std::fprintf(stderr, "sheet: can't write %s: %s\n", qPrintable(path), qPrintable(file.errorString()));
+    return false;
+}
+
+} // namespace
+
+int RunSheetCommand(const QStringList& arguments)
+{
+    SheetOptions options;
+    if (!parseSheetOptions(arguments, options)) return ExitUsage;
+    LoadLanguageSetting();
+    ApplyLanguage(options.language);
+    if (LoadSheet(options.file) != SheetLoadResult::Loaded) return ExitRefused;
+    if (!options.json.isEmpty() && !writeJson(options.json, sheetJson())) return ExitWriteFailed;
+    if (!options.resave.isEmpty() && !SaveSheet(options.resave)) return ExitWriteFailed;
+    return ExitLoaded;
+}
