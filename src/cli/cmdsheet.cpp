@@ -3,11 +3,13 @@
 
 #include "acquire/waverecord.h"
 #include "analysis/datarecord.h"
+#include "analysis/measurejudge.h"
 #include "analysis/measurerecord.h"
 #include "document/sheetstate.h"
 #include "sheet/sheetfile.h"
 #include "stored/memorywaveslot.h"
 #include "stored/recordslot.h"
+#include "text/language.h"
 
 #include <QCommandLineParser>
 #include <QJsonArray>
@@ -63,7 +65,9 @@ QJsonObject windowJson(SheetKind kind, int slot)
         break;
     }
     case SheetKind::Measure: {
-        const MeasureRecord& measure = MeasureRecords[at];
+        // Judgements aren't filed: worked out again as the window does on display.
+        MeasureRecord& measure = MeasureRecords[at];
+        JudgeMeasureRecord(measure, Language);
         json.insert("HasData", measure.HasData);
         json.insert("Legend", measure.Legend);
         QJsonArray values, judgements;
