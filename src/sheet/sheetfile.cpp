@@ -119,18 +119,44 @@ bool SaveSheet(const QString& path)
     return true;
 }
 
-SheetLoadResult LoadSheet(const QString& path)
+SheetLoadResult ReadSheetFile(const QString& path, QByteArray& content)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         MsgBox(file.errorString(), vbCritical);
         return SheetLoadResult::Unreadable;
     }
-    const SheetLoadResult result = ReadSheetContent(file.readAll());
-    if (result == SheetLoadResult::Refused) {
+    content = file.readAll();
+    if (SheetReader(content.left(content.indexOf('\n') + 1)).text() != SheetSignature()) {
         MsgBox(SheetFormatInvalidText(), vbExclamation);
-        return result;
+        return SheetLoadResult::Refused;
     }
-    SheetFileName = path;
+    return SheetLoadResult::Loaded;
+}
+
+SheetLoadResult LoadSheet(const QString& path)
+{
+    QByteArray content;
+    const SheetLoadResult checked = ReadSheetFile(path, content);
+    if (checked != SheetLoadResult::Loaded) return checked;
+    const SheetLoadResult result = ReadSheetContent(content);
+    if (result == SheetLoadResult::Loaded) SheetFileName = path;
     return result;
+}
+
+QString SheetOpenTitle(int language)
+{
+    return IsChinese(language) ? QStringLiteral("打开") : QStringLiteral("Open");
+}
+
+QString SheetSaveTitle(bool saveAs, int language)
+{
+    if (IsChinese(language)) return saveAs ? QStringLiteral("另存为") : QStringLiteral("保存");
+    return saveAs ? QStringLiteral("Save As") : QStringLiteral("Save");
+}
+
+QString SheetFileFilter(int language)
+{
+    return IsChinese(language) ? QStringLiteral("数据浏览器文件 (*.kvs)")
+                               : QStringLiteral("Data Sheet Files (*.kvs)");
 }
