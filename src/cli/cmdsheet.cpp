@@ -7,11 +7,18 @@
 #include "analysis/measurerecord.h"
 #include "document/sheetstate.h"
 #include "sheet/sheetfile.h"
+#include "stored/memoryviewdraw.h"
 #include "stored/memorywaveslot.h"
+#include "stored/memoryzoom.h"
+#include "stored/recordplaydraw.h"
 #include "stored/recordslot.h"
 #include "text/language.h"
+#include "wave/pictureexport.h"
+#include "wave/qimagesurface.h"
+#include "wave/wavepicture.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -26,6 +33,7 @@ struct SheetOptions {
     QString file;
     QString json;
     QString resave;
+    QString pictures;
     int language = -1;
 };
 
@@ -37,6 +45,7 @@ bool parseSheetOptions(const QStringList& arguments, SheetOptions& options)
     parser.addPositionalArgument("file", "The data sheet file (.kvs).");
     parser.addOption({"json", "Write the sheet's windows and their main fields as JSON.", "file"});
     parser.addOption({"resave", "Save the loaded sheet again.", "file"});
+    parser.addOption({"pictures", "Draw every wave, memory wave and record window into PNGs.", "dir"});
     AddLanguageOption(parser);
     parser.process(arguments);
     if (!TakeLanguageOption(parser, options.language)) return false;
@@ -47,6 +56,7 @@ bool parseSheetOptions(const QStringList& arguments, SheetOptions& options)
     options.file = parser.positionalArguments().first();
     options.json = parser.value("json");
     options.resave = parser.value("resave");
+    options.pictures = parser.value("pictures");
     return true;
 }
 
@@ -125,6 +135,47 @@ bool writeJson(const QString& path, const QJsonObject& json)
     return false;
 }
 
+QImage windowPicture(SheetKind kind, std::size_t slot)
+{
+    switch (kind) {
+    case SheetKind::Wave: {
+        QImageSurface surface(WavePictureSize(1.0));
+        DrawWavePicture(surface, WaveRecords[slot], 1.0);
+        return surface.image();
+    }
+    case SheetKind::MemoryWave: {
+        MemoryWaveSlot& memory = MemoryWaveSlots[slot];
+        ComputeMemoryWindows(memory);
+        MemoryWaveScreen screen;
+        RefreshMemoryChannels(memory, screen);
+        return MemoryWavePicture(1.0, memory, screen);
+    }
+    case SheetKind::Record: return RecordFrameImage(RecordSlots[slot]);
+    default: return {};
+    }
+}
+
+// wave_1.png, memorywave_1.png, record_1.png: the kind and the window's place from 1.
+bool writePictures(const QString& folder)
+{
+    if (!QDir().mkpath(folder)) {
+        std::fprintf(stderr, "sheet: can't make %s\n", qPrintable(folder));
+        return false;
+    }
+    const std::pair<SheetKind, const char*> drawn[] = {
+        {SheetKind::Wave, "wave"}, {SheetKind::MemoryWave, "memorywave"}, {SheetKind::Record, "record"}};
+    for (const auto& [kind, stem] : drawn)
+        for (int slot = 0; slot < int(SheetSlotNames[std::size_t(KindIndex(kind))].size()); ++slot) {
+            const QString path =
+                QDir(folder).filePath(QStringLiteral("%1_%2.png").arg(QLatin1String(stem)).arg(slot + 1));
+            const QString failure = WritePictureFile(windowPicture(kind, std::size_t(slot)), path);
+            if (failure.isEmpty()) continue;
+            std::fprintf(stderr, "sheet: can't write %s: %s\n", qPrintable(path), qPrintable(failure));
+            return false;
+        }
+    return true;
+}
+
 } // namespace
 
 int RunSheetCommand(const QStringList& arguments)
@@ -136,5 +187,6 @@ int RunSheetCommand(const QStringList& arguments)
     if (LoadSheet(options.file) != SheetLoadResult::Loaded) return ExitRefused;
     if (!options.json.isEmpty() && !writeJson(options.json, sheetJson())) return ExitWriteFailed;
     if (!options.resave.isEmpty() && !SaveSheet(options.resave)) return ExitWriteFailed;
+    if (!options.pictures.isEmpty() && !writePictures(options.pictures)) return ExitWriteFailed;
     return ExitLoaded;
 }
