@@ -205,7 +205,8 @@ void WriteDataSection(SheetWriter& out, const DataRecord& data, const QString& t
     const auto at = [](const DataColumn& column, int i) {
         return i < static_cast<int>(column.size()) ? column[static_cast<std::size_t>(i)] : QString();
     };
-    for (int i = 0; i <= data.Count; ++i) {
+    const int rows = int(std::min<int64_t>(int64_t(data.Count) + 1, int64_t(MaxDataRows)));
+    for (int i = 0; i < rows; ++i) {
         out.text(at(data.Voltages, i));
         out.text(at(data.Times, i));
     }

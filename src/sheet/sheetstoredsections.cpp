@@ -205,23 +205,26 @@ void WriteMemoryWaveSection(SheetWriter& out, const MemoryWaveSlot& m)
     if (!m.HasData) return;
     const auto arrays = filedArrays(m);
     const bool ch1 = m.ChanEnabled[0], ch2 = m.ChanEnabled[1];
+    // The reader's bounds: a damaged count is filed as far as it reads back.
+    const auto count = int32_t(boundedCount(m.SampleCount));
+    const auto countA = int32_t(boundedCount(m.SampleCountA)), countB = int32_t(boundedCount(m.SampleCountB));
     if (!m.IsAlternation && m.SampleCount <= ColumnLimit) {
-        for (int32_t i = 0; i < m.SampleCount; ++i)
+        for (int32_t i = 0; i < count; ++i)
             for (const auto* array : arrays)
                 writeSample(out, *array, i);
     } else if (!m.IsAlternation) {
         for (const auto* array : arrays)
-            for (int32_t i = 0; i < m.SampleCount; ++i)
+            for (int32_t i = 0; i < count; ++i)
                 writeSample(out, *array, i);
-    } else if (m.SampleCountA == m.SampleCountB) {
-        for (int32_t i = 0; i < m.SampleCountA; ++i) {
+    } else if (countA == countB) {
+        for (int32_t i = 0; i < countA; ++i) {
             if (ch1) writeSample(out, m.Samples[0], i);
             if (ch2) writeSample(out, m.Samples[1], i);
         }
     } else if (ch1) {
         // The second pass goes over CH1 again, not CH2: the format has it so.
-        for (int32_t count : {m.SampleCountA, m.SampleCountB})
-            for (int32_t i = 0; i < count; ++i)
+        for (int32_t pass : {countA, countB})
+            for (int32_t i = 0; i < pass; ++i)
                 writeSample(out, m.Samples[0], i);
     }
 }
