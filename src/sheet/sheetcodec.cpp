@@ -45,35 +45,30 @@ void SheetWriter::real(double value)
     line(shortest(value));
 }
 
-SheetReader::SheetReader(const QByteArray& content)
-{
-    qsizetype start = 0;
-    while (start < content.size()) {
-        qsizetype end = content.indexOf('\n', start);
-        if (end < 0) end = content.size();
-        QByteArray value = content.mid(start, end - start);
-        if (value.endsWith('\r')) value.chop(1);
-        lines.push_back(std::move(value));
-        start = end + 1;
-    }
-}
+SheetReader::SheetReader(const QByteArray& content) : data(content) {}
 
-QByteArray SheetReader::take()
+QByteArrayView SheetReader::take()
 {
-    return atEnd() ? QByteArray() : lines[next++];
+    if (atEnd()) return {};
+    qsizetype end = data.indexOf('\n', next);
+    if (end < 0) end = data.size();
+    QByteArrayView line(data.constData() + next, end - next);
+    next = end + 1;
+    if (line.endsWith('\r')) line.chop(1);
+    return line;
 }
 
 QString SheetReader::text()
 {
-    QByteArray value = take();
-    if (value.startsWith('"')) value.remove(0, 1);
+    QByteArrayView value = take();
+    if (value.startsWith('"')) value = value.sliced(1);
     if (value.endsWith('"')) value.chop(1);
     return QString::fromUtf8(value);
 }
 
 bool SheetReader::flag()
 {
-    const QByteArray value = take().trimmed();
+    const QByteArrayView value = take().trimmed();
     // A number stands for a flag too: anything but zero is set.
     if (value == "#TRUE#") return true;
     if (value == "#FALSE#" || value.isEmpty()) return false;
@@ -82,12 +77,14 @@ bool SheetReader::flag()
 
 int64_t SheetReader::integer()
 {
-    const QByteArray value = take().trimmed();
-    bool ok = false;
-    const qlonglong whole = value.toLongLong(&ok);
-    if (ok) return whole;
+    const QByteArrayView value = take().trimmed();
+    int64_t whole = 0;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), whole);
+    if (error == std::errc() && end == value.data() + value.size()) return whole;
     // A number written with a point is rounded, as a conversion to an integer would.
-    return static_cast<int64_t>(std::llround(value.toDouble()));
+    const double real = value.toDouble();
+    if (!(std::abs(real) < 9.2e18)) return 0;
+    return static_cast<int64_t>(std::llround(real));
 }
 
 float SheetReader::single()

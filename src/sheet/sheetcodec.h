@@ -4,6 +4,7 @@
 // decimal with a point and the fewest digits that keep the value.
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 #include <cstdint>
 #include <vector>
@@ -37,12 +38,13 @@ class SheetReader {
     float single();
     double real();
 
-    bool atEnd() const { return next >= lines.size(); }
+    bool atEnd() const { return next >= data.size(); }
     // Whether the next value is a text: a run of numbers ends before it.
-    bool nextIsText() const { return !atEnd() && lines[next].startsWith('"'); }
+    bool nextIsText() const { return !atEnd() && data.at(next) == '"'; }
 
   private:
-    QByteArray take();
-    std::vector<QByteArray> lines;
-    std::size_t next = 0;
+    // The next line without its CR LF; empty past the end.
+    QByteArrayView take();
+    QByteArray data;
+    qsizetype next = 0;
 };
