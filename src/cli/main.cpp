@@ -34,6 +34,7 @@ constexpr Subcommand subcommands[] = {
     {"list", "List the VISA resources found and the identity of each that answers.", RunListCommand},
     {"scpi", "Send commands to a resource and print the replies; from stdin when none are given.",
      RunScpiCommand},
+    {"sheet", "Load a data sheet file and write its windows as JSON or save it again.", RunSheetCommand},
 };
 
 const Subcommand* findSubcommand(const QStringList& arguments)

@@ -41,3 +41,6 @@ int RunListCommand(const QStringList& arguments);
 // its length (or its bytes to --out); without commands reads them from stdin,
 // one a line. 0 when all went, 1 when one failed, 2 on a usage error.
 int RunScpiCommand(const QStringList& arguments);
+// Loads a data sheet file and writes its windows as JSON (--json) or saves it
+// again (--resave). 0 loaded, 3 refused or unreadable, 2 usage, 1 write failed.
+int RunSheetCommand(const QStringList& arguments);

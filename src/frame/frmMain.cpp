@@ -91,6 +91,8 @@ void frmMain::createPanes()
     DataSheetTree->SetCaptions(Language);
     DataSheetTree->setWindowArea(MdiArea);
     connect(DataSheetTree, &frmDataSheetTree::mainTitleChanged, this, &QWidget::setWindowTitle);
+    connect(DataSheetTree, &frmDataSheetTree::sheetFileUsed, this,
+            [this](const QString& path) { AddRecentFile(RecentSheetSection, path); });
     CtrlList = new frmCtrlList;
     CtrlList->SetCaptions(Language);
     connect(CtrlList, &frmCtrlList::ctrlFileNamed, this,

@@ -3,17 +3,17 @@
 #include "frame/frmMain.h"
 
 #include "controller/frmCtrlList.h"
+#include "document/sheetstate.h"
 #include "frame/frmAbout.h"
 #include "frame/frmOptions.h"
 #include "frame/helpfile.h"
-#include "text/language.h"
-#include "text/messages.h"
 #include "frame/recentfiles.h"
 #include "frame/tilelayout.h"
 #include "link/connection.h"
 #include "sheet/frmDataSheetTree.h"
 #include "sheet/frmNewDoc.h"
-#include "document/sheetstate.h"
+#include "text/language.h"
+#include "text/messages.h"
 #include "wave/frmWaveSetting.h"
 
 #include <QMdiArea>
@@ -43,11 +43,21 @@ void placeWindows(const QList<QMdiSubWindow*>& windows, const QList<QRect>& plac
 
 void frmMain::mnuFileNew_Click()
 {
-    if (AskNewDocument(this)) RunNewDocumentChoice(DataSheetTree, DocChoice);
+    if (!AskNewDocument(this)) return;
+    if (DocChoice == NewDocController)
+        CtrlList->mnuNewCtrl_Click();
+    else
+        RunNewDocumentChoice(DataSheetTree, DocChoice);
 }
 
-// The open document dialog arrives with the data sheet's file.
-void frmMain::mnuFileOpen_Click() {}
+void frmMain::mnuFileOpen_Click()
+{
+    if (!AskOpenDocument(this)) return;
+    if (DocChoice == NewDocDataSheet)
+        DataSheetTree->mnuOpenDataSheet_Click();
+    else if (DocChoice == NewDocController)
+        CtrlList->mnuOpenCtrl_Click();
+}
 
 void frmMain::mnuFileSaveDataSheet_Click()
 {

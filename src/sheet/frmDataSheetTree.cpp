@@ -61,6 +61,12 @@ void frmDataSheetTree::AddWindow(SheetKind kind)
 {
     if (!MayAddWindow(kind)) return;
     const int slot = ClaimSlot(kind);
+    addChild(kind, slot);
+    askForStoredFile(kind, slot);
+}
+
+void frmDataSheetTree::addChild(SheetKind kind, int slot)
+{
     Child child;
     child.window = CreateSheetWindow(windowArea, kind, slot, SlotName(kind, slot));
     {
@@ -72,7 +78,6 @@ void frmDataSheetTree::AddWindow(SheetKind kind)
     root()->setExpanded(true);
     sortIfFlagged();
     DataSheetTree->setCurrentItem(child.node);
-    askForStoredFile(kind, slot);
 }
 
 // A new memory wave or record window goes straight on to its file dialog; a

@@ -57,9 +57,16 @@ class frmDataSheetTree : public QWidget {
   Q_SIGNALS:
     // The main window's title, which shows the sheet's name.
     void mainTitleChanged(const QString& title);
+    // A sheet file was saved or opened: the recent list takes its path.
+    void sheetFileUsed(const QString& path);
 
   private:
     void askForStoredFile(SheetKind kind, int slot);
+    // Makes the window and node of a slot that holds a record already.
+    void addChild(SheetKind kind, int slot);
+    // After a sheet file was read: every window of the sheet, kind by kind in the file's order.
+    void rebuildFromRecords();
+    bool saveTo(const QString& path);
 
     struct Child {
         QTreeWidgetItem* node = nullptr;

@@ -2,12 +2,12 @@
 
 #include "sheet/frmDataSheetTree.h"
 
+#include "document/sheetstate.h"
+#include "platform/platform.h"
+#include "sheet/sheetslots.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
 #include "text/messages.h"
-#include "platform/platform.h"
-#include "sheet/sheetslots.h"
-#include "document/sheetstate.h"
 
 #include <QMenu>
 #include <QTreeWidget>
@@ -88,28 +88,6 @@ void frmDataSheetTree::mnuNewDataSheet_Click()
     if (!CloseSheet()) return;
     OpenNewSheet();
     showRoot();
-}
-
-// Sheet files come with their reader and writer.
-void frmDataSheetTree::mnuOpenDataSheet_Click()
-{
-    TellSheetFilesUnavailable();
-}
-
-void frmDataSheetTree::OpenDataSheet(const QString&)
-{
-    TellSheetFilesUnavailable();
-}
-
-// Without an open sheet there is nothing to save.
-void frmDataSheetTree::mnuSaveDataSheet_Click()
-{
-    if (HasSheet()) TellSheetFilesUnavailable();
-}
-
-void frmDataSheetTree::mnuSaveDataSheetAs_Click()
-{
-    mnuSaveDataSheet_Click();
 }
 
 void frmDataSheetTree::mnuAddNewWaveform()

@@ -1,31 +1,26 @@
 #pragma once
-// The new document dialog: which kind of document File > New makes.
+// The new and open document dialogs: which kind of document File > New makes
+// and which File > Open reads.
 
-#include <QDialog>
-#include <array>
+#include "sheet/frmDocChoice.h"
 
-class QGroupBox;
-class QPushButton;
-class QRadioButton;
 class frmDataSheetTree;
+class frmCtrlList;
 
-class frmNewDoc : public QDialog {
+class frmNewDoc : public frmDocChoice {
     Q_OBJECT
   public:
     explicit frmNewDoc(QWidget* parent = nullptr);
-
-    void SetCaptions(int language);
-    void cmdOK_Click();
-    void cmdCancel_Click();
-
-  private:
-    QGroupBox* fraFileType = nullptr;
-    std::array<QRadioButton*, 7> NewOption{};
-    QPushButton* cmdOK = nullptr;
-    QPushButton* cmdCancel = nullptr;
 };
 
-// The choices of the dialog, as DocChoice numbers them.
+// The English title stays "New Document", as the dialog always had it.
+class frmOpenDoc : public frmDocChoice {
+    Q_OBJECT
+  public:
+    explicit frmOpenDoc(QWidget* parent = nullptr);
+};
+
+// The choices of the new dialog, as DocChoice numbers them; the open dialog has the first two.
 enum NewDocChoice : int {
     NewDocDataSheet = 1,
     NewDocController = 2,
@@ -36,7 +31,8 @@ enum NewDocChoice : int {
     NewDocMemoryWave = 7,
 };
 
-// Shows the dialog modal; true when OK took a choice (DocChoice holds it).
+// Show the dialog modal; true when OK took a choice (DocChoice holds it).
 bool AskNewDocument(QWidget* parent);
+bool AskOpenDocument(QWidget* parent);
 // Runs a data sheet choice on the tree; the controller's choice is left to its pane.
 void RunNewDocumentChoice(frmDataSheetTree* tree, int choice);

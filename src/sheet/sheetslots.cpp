@@ -1,10 +1,10 @@
 #include "sheet/sheetslots.h"
 
+#include "document/sheetstate.h"
+#include "platform/platform.h"
+#include "sheet/slotrecords.h"
 #include "text/captions.h"
 #include "text/messages.h"
-#include "platform/platform.h"
-#include "document/sheetstate.h"
-#include "sheet/slotrecords.h"
 
 namespace {
 
@@ -111,11 +111,4 @@ void ClearSheet()
     DataSheetDirty = false;
     SheetSorted = false;
     SheetOpen = false;
-}
-
-void TellSheetFilesUnavailable()
-{
-    MsgBox(IsChinese(Language) ? QStringLiteral("本版本尚不能保存或打开数据浏览器文件。")
-                               : QStringLiteral("Data sheet files can't be saved or opened in this version."),
-           vbInformation);
 }

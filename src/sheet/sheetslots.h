@@ -2,8 +2,8 @@
 // What the data sheet tree does to the sheet, without windows: opening and
 // closing a sheet, taking, naming and releasing the slots of its windows.
 
-#include "text/language.h"
 #include "document/sheetkinds.h"
+#include "text/language.h"
 
 #include <QString>
 #include <functional>
@@ -30,5 +30,3 @@ void OpenNewSheet(int language = Language);
 bool QuerySheetClose(const std::function<void()>& save);
 // Forgets the sheet's windows and counts; no sheet is open afterwards.
 void ClearSheet();
-// Sheet files come later; until then their commands say so in a box.
-void TellSheetFilesUnavailable();

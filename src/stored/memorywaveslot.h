@@ -31,6 +31,18 @@ struct MemoryWaveSettings {
     float SampleRateB = 0;
 };
 
+// Values the sheet file keeps for a memory wave window that no .wfm load fills.
+struct MemorySheetValues {
+    bool ModeFlag = false;           // the fourth flag beside IsAlternation
+    std::array<bool, 5> ViewFlags{}; // behind GridOn and ColorOn
+    bool FifthOn = false;            // the fifth array is filed
+    std::array<QString, 2> ViewTexts;
+    std::array<int16_t, 2> SnapshotWords{};
+    std::array<bool, 2> SnapshotFlags{};
+    uint8_t SnapshotByte = 0;
+    std::vector<int16_t> FifthSamples;
+};
+
 enum class MemoryTimeBase : int { Single, A, B };
 
 struct MemoryWaveSlot {
@@ -69,6 +81,7 @@ struct MemoryWaveSlot {
     bool ColorOn = true;
     bool Shown = false; // a window shows the slot
     MemoryWaveWindow Single, WindowA, WindowB;
+    MemorySheetValues SheetValues;
 
     // Samples held for a channel (0 to 3): the vector's size less the spare last element.
     int sampleCount(int channel) const;

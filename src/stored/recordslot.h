@@ -35,6 +35,7 @@ struct RecordSlot {
     double FrameInterval = DefaultFrameInterval; // seconds
     QString StatusText;
     bool WhiteBackground = false;
+    bool storedFlag = false; // kept only for the sheet file
 };
 
 inline constexpr int RecordSlotCount = 5;

@@ -97,8 +97,8 @@ INSTANTIATE_TEST_SUITE_P(
         WindowCase{"CtrlList", plain<frmCtrlList>()}, WindowCase{"Options", plain<frmOptions>()},
         WindowCase{"DlgResource", plain<frmDlgResource>()},
         WindowCase{"DataSheetTree", plain<frmDataSheetTree>()}, WindowCase{"NewDoc", plain<frmNewDoc>()},
-        WindowCase{"About", plain<frmAbout>()}, WindowCase{"Pattern", plain<PatternDlg>()},
-        WindowCase{"Progress", plain<frmPrgress>()}),
+        WindowCase{"OpenDoc", plain<frmOpenDoc>()}, WindowCase{"About", plain<frmAbout>()},
+        WindowCase{"Pattern", plain<PatternDlg>()}, WindowCase{"Progress", plain<frmPrgress>()}),
     [](const auto& info) { return std::string(info.param.name); });
 
 // The table windows' buttons take their lists' captions, tooltips included.

@@ -1,14 +1,16 @@
 #include "mainwindowfixture.h"
 
-#include "text/language.h"
+#include "document/sheetstate.h"
 #include "sheet/frmDataSheetTree.h"
 #include "sheet/frmNewDoc.h"
-#include "document/sheetstate.h"
+#include "sheet/sheetfile.h"
+#include "text/language.h"
 
 #include <QApplication>
 #include <QMdiArea>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -27,7 +29,7 @@ class NewDocTest : public MainWindowTest {
     void answerDialog(int option, const char* button)
     {
         QTimer::singleShot(0, [option, button] {
-            auto* dialog = qobject_cast<frmNewDoc*>(QApplication::activeModalWidget());
+            auto* dialog = qobject_cast<frmDocChoice*>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
             if (option >= 0)
                 dialog->findChild<QRadioButton*>(QStringLiteral("NewOption_%1").arg(option))
@@ -81,6 +83,37 @@ TEST_F(NewDocTest, TheDialogSpeaksChinese)
     EXPECT_EQ(dialog.windowTitle(), u"新建文档");
     EXPECT_EQ(dialog.findChild<QRadioButton*>("NewOption_6")->text(), u"波形文件窗口");
     EXPECT_EQ(dialog.findChild<QPushButton*>("cmdCancel")->text(), u"取消");
+}
+
+TEST_F(NewDocTest, OpenTakesADataSheetFileAndShowsItsWindows)
+{
+    RunNewDocumentChoice(window->dataSheetTree(), NewDocDataSheet);
+    RunNewDocumentChoice(window->dataSheetTree(), NewDocMeasure);
+    QTemporaryDir dir;
+    const QString path = dir.filePath("one.kvs");
+    ASSERT_TRUE(SaveSheet(path));
+    RunNewDocumentChoice(window->dataSheetTree(), NewDocDataSheet);
+
+    test->openPaths << path;
+    answerDialog(0, "cmdOK");
+    find("mnuFileOpen")->trigger();
+    ASSERT_EQ(test->openRequests.size(), 1);
+    EXPECT_EQ(test->openRequests[0].filter, "Data Sheet Files (*.kvs)");
+    EXPECT_EQ(tree()->topLevelItem(0)->child(0)->text(0), "Measure0");
+    EXPECT_EQ(window->mdiArea()->subWindowList().size(), 1);
+
+    answerDialog(1, "cmdOK");
+    find("mnuFileOpen")->trigger();
+    EXPECT_EQ(DocChoice, NewDocController);
+    ASSERT_EQ(test->openRequests.size(), 2) << "the controller asks for its own file";
+    EXPECT_NE(test->openRequests[1].filter, "Data Sheet Files (*.kvs)");
+}
+
+TEST_F(NewDocTest, TheOpenDialogKeepsItsEnglishTitle)
+{
+    frmOpenDoc dialog;
+    EXPECT_EQ(dialog.windowTitle(), "New Document");
+    EXPECT_EQ(dialog.findChildren<QRadioButton*>().size(), 2);
 }
 
 } // namespace

@@ -1,14 +1,15 @@
 #include "mainwindowfixture.h"
 
 #include "acquire/waverecord.h"
+#include "document/sheetstate.h"
 #include "link/linkstate.h"
 #include "sheet/frmDataSheetTree.h"
 #include "sheet/frmSheetWindows.h"
-#include "document/sheetstate.h"
 #include "wave/waverefresh.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QTemporaryDir>
 #include <QTreeWidget>
 
 namespace {
@@ -189,16 +190,34 @@ TEST_F(SheetTreeTest, SortedOrdersTheNodesByName)
     EXPECT_EQ(nodeTexts(), QStringList({"Alpha", "Data0", "Measure0"}));
 }
 
-TEST_F(SheetTreeTest, SavingSaysSheetFilesAreNotThereYetOnlyWithASheetOpen)
+TEST_F(SheetTreeTest, ASavedSheetOpensAgainWithItsWindows)
 {
     find("mnuSaveDataSheet")->trigger();
-    EXPECT_TRUE(test->boxes.isEmpty());
+    EXPECT_TRUE(test->saveRequests.isEmpty()) << "without a sheet there is nothing to save";
     find("mnuNewDataSheet")->trigger();
-    find("mnuSaveDataSheetAs")->trigger();
+    addWaves(2);
+    find("AddNewMeasure")->trigger();
+    WaveRecords[1].TriggerMode = QStringLiteral("ALTERNATION");
+    QTemporaryDir dir;
+    const QString path = dir.filePath("bench.kvs");
+    test->savePaths << path;
     find("mnuFileSaveDataSheet")->trigger();
-    ASSERT_EQ(test->boxes.size(), 2);
-    EXPECT_EQ(test->boxes[1].text, "Data sheet files can't be saved or opened in this version.");
-    EXPECT_EQ(test->boxes[1].style, vbInformation);
+    ASSERT_EQ(test->saveRequests.size(), 1) << "a sheet without a file is saved as a new one";
+    EXPECT_EQ(test->saveRequests[0].title, "Save As");
+    EXPECT_EQ(test->saveRequests[0].filter, "Data Sheet Files (*.kvs)");
+    EXPECT_FALSE(DataSheetDirty);
+
+    find("mnuNewDataSheet")->trigger();
+    WaveRecords[1].TriggerMode.clear();
+    test->openPaths << path;
+    sheet->mnuOpenDataSheet_Click();
+    ASSERT_EQ(test->openRequests.size(), 1);
+    EXPECT_EQ(test->openRequests[0].title, "Open");
+    EXPECT_EQ(nodeTexts(), QStringList({"Wave0", "Wave1", "Measure0"}));
+    EXPECT_EQ(window->mdiArea()->subWindowList().size(), 3);
+    EXPECT_EQ(WaveRecords[1].TriggerMode, "ALTERNATION");
+    EXPECT_EQ(SheetFileName, path);
+    EXPECT_TRUE(test->boxes.isEmpty());
 }
 
 } // namespace
