@@ -1,11 +1,13 @@
 #include "sheet/frmDocChoice.h"
 
 #include "document/sheetstate.h"
+#include "sheet/docpicturewidgets.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -29,9 +31,15 @@ frmDocChoice::frmDocChoice(const QString& name, CaptionList captions, int option
     fraFileType->setObjectName("fraFileType");
     auto* column = new QVBoxLayout(fraFileType);
     for (int i = 0; i < options; ++i) {
+        auto* row = new QHBoxLayout;
+        auto* picture = new QLabel(fraFileType);
+        picture->setObjectName(QStringLiteral("Image%1").arg(i + 1));
+        picture->setPixmap(DocChoicePicture(i + 1));
         auto* option = new QRadioButton(fraFileType);
         option->setObjectName(QStringLiteral("NewOption_%1").arg(i));
-        column->addWidget(option);
+        row->addWidget(picture);
+        row->addWidget(option, 1);
+        column->addLayout(row);
         NewOption.push_back(option);
     }
     NewOption.front()->setChecked(true);

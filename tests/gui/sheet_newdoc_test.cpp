@@ -7,9 +7,11 @@
 #include "text/language.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMdiArea>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QTreeWidget>
@@ -83,6 +85,15 @@ TEST_F(NewDocTest, TheDialogSpeaksChinese)
     EXPECT_EQ(dialog.windowTitle(), u"新建文档");
     EXPECT_EQ(dialog.findChild<QRadioButton*>("NewOption_6")->text(), u"波形文件窗口");
     EXPECT_EQ(dialog.findChild<QPushButton*>("cmdCancel")->text(), u"取消");
+    // Each choice has its own picture, none of them blank.
+    QSet<qint64> pictures;
+    for (int i = 1; i <= 7; ++i) {
+        const auto* image = dialog.findChild<QLabel*>(QStringLiteral("Image%1").arg(i));
+        ASSERT_TRUE(image) << i;
+        pictures.insert(image->pixmap().cacheKey());
+        EXPECT_FALSE(image->pixmap().toImage().allGray()) << i;
+    }
+    EXPECT_EQ(pictures.size(), 7);
 }
 
 TEST_F(NewDocTest, OpenTakesADataSheetFileAndShowsItsWindows)
