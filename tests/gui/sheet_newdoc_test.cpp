@@ -56,6 +56,30 @@ TEST_F(NewDocTest, TheFirstOptionMakesADataSheetAndTheThirdAWaveWindow)
     EXPECT_EQ(window->mdiArea()->subWindowList().size(), 1);
 }
 
+TEST_F(NewDocTest, EveryWindowKindAndTheControllerHaveTheirChoice)
+{
+    answerDialog(0, "cmdOK");
+    find("mnuFileNew")->trigger();
+    const struct {
+        int option;
+        const char* node;
+    } kinds[] = {{3, "Measure0"}, {4, "Data0"}, {5, "Record0"}, {6, "Memory Wave0"}};
+    for (const auto& kind : kinds) {
+        answerDialog(kind.option, "cmdOK");
+        find("mnuFileNew")->trigger();
+        EXPECT_EQ(DocChoice, kind.option + 1);
+        QStringList names;
+        for (int i = 0; i < tree()->topLevelItem(0)->childCount(); ++i)
+            names << tree()->topLevelItem(0)->child(i)->text(0);
+        EXPECT_TRUE(names.contains(QString::fromLatin1(kind.node))) << kind.node;
+    }
+    EXPECT_EQ(window->mdiArea()->subWindowList().size(), 4);
+    answerDialog(1, "cmdOK");
+    find("mnuFileNew")->trigger();
+    EXPECT_EQ(DocChoice, 2) << "a new control file, nothing asked while it has no changes";
+    EXPECT_TRUE(test->boxes.isEmpty());
+}
+
 TEST_F(NewDocTest, CancelRunsNothingAndKeepsTheLastChoice)
 {
     DocChoice = NewDocMeasure;
