@@ -12,6 +12,9 @@
 #include "link/linklamp.h"
 #include "link/linkstate.h"
 
+#include <QProcess>
+#include <QTemporaryDir>
+
 namespace {
 
 using Reconnect = SimReadingTest;
@@ -54,6 +57,36 @@ TEST_F(Reconnect, AfterTheSimulatorIsKilledARestartedOneConnectsAndReadsAgain)
     EXPECT_EQ(WaveCount, 600);
     EXPECT_TRUE(DataHeaderText.startsWith("CH1 ")) << DataHeaderText.toStdString();
     EXPECT_TRUE(Connected);
+}
+
+// selvane-cli idn against one HiSLIP address: exit status and output.
+std::pair<int, QString> cliIdn(const QString& resource)
+{
+    QProcess cli;
+    const QTemporaryDir home;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("SELVANE_VISA", "builtin");
+    environment.insert("HOME", home.path());
+    environment.insert("XDG_CONFIG_HOME", home.path());
+    cli.setProcessEnvironment(environment);
+    cli.start(SELVANE_CLI_PATH, {"idn", "--resource", resource});
+    if (!cli.waitForFinished(30000)) return {-1, {}};
+    return {cli.exitCode(), QString::fromLocal8Bit(cli.readAllStandardOutput()).trimmed()};
+}
+
+TEST(CliReconnect, EachRoundAgainstARestartedSimulatorWorksAndAGoneOneFails)
+{
+    auto sim = std::make_unique<SimLink>();
+    ASSERT_TRUE(sim->started()) << sim->errorString().toStdString();
+    const QString port = QString::number(sim->sim().port("hislip"));
+    const QString resource = "TCPIP0::127.0.0.1::hislip0," + port + "::INSTR";
+    for (int round = 0; round < 3; ++round) {
+        EXPECT_EQ(cliIdn(resource), std::make_pair(0, QString(SupportedIdentity))) << round;
+        sim.reset();
+        EXPECT_EQ(cliIdn(resource).first, 1) << round;
+        sim = std::make_unique<SimLink>(QStringList{"--hislip-port", port});
+        ASSERT_TRUE(sim->started()) << sim->errorString().toStdString();
+    }
 }
 
 } // namespace
