@@ -21,7 +21,9 @@ export LSAN_OPTIONS="suppressions=$PWD/tools/lsan.supp:print_suppressions=0"
 log="$dir/sanitize.log"
 cd "$dir"
 status=0
-ctest --output-on-failure --timeout 600 -j 2 "$@" >"../$log" 2>&1 || status=$?
+# The Python test loads our instrumented library into an uninstrumented
+# interpreter, which the address sanitizer's runtime refuses.
+ctest --output-on-failure --timeout 600 -j 2 -E Pyvisa "$@" >"../$log" 2>&1 || status=$?
 tail -n 40 "../$log"
 if grep -Eq 'ERROR: (Address|Leak)Sanitizer|runtime error:' "../$log"; then
     echo "sanitizer reports in $log" >&2
