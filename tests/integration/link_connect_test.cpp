@@ -2,11 +2,11 @@
 // transport, and the refusals of instruments the program doesn't support.
 #include "link_simlink.h"
 
-#include "text/valuetext.h"
 #include "link/connection.h"
 #include "link/devicefacts.h"
 #include "link/linkcommands.h"
 #include "link/linkstate.h"
+#include "text/valuetext.h"
 
 #include <QThread>
 
