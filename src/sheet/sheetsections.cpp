@@ -1,5 +1,7 @@
 #include "sheet/sheetsections.h"
 
+#include "sheet/sheetfields.h"
+
 #include "acquire/waverecord.h"
 #include "analysis/datarecord.h"
 #include "analysis/measurerecord.h"
@@ -93,26 +95,12 @@ template <typename Io, typename Wave> void waveValues(Io& io, Wave& wave)
     io.text(wave.FFTDisplayText);
 }
 
-// Adapters giving the writer and the reader one vocabulary for waveValues.
-struct Put {
-    SheetWriter& out;
-    void text(const QString& v) { out.text(v); }
-    void flag(bool v) { out.flag(v); }
-    void int32(int32_t v) { out.integer(v); }
-    void int16(int16_t v) { out.integer(v); }
-    void int8(int8_t v) { out.integer(v); }
-    void single(float v) { out.single(v); }
+// The wave section's one field of its own: the logic inputs flag.
+struct Put : SheetPut {
     void laFlag() { out.flag(HasLa); }
 };
 
-struct Get {
-    SheetReader& in;
-    void text(QString& v) { v = in.text(); }
-    void flag(bool& v) { v = in.flag(); }
-    void int32(int32_t& v) { v = in.int32(); }
-    void int16(int16_t& v) { v = in.int16(); }
-    void int8(int8_t& v) { v = static_cast<int8_t>(in.integer()); }
-    void single(float& v) { v = in.single(); }
+struct Get : SheetGet {
     // The instrument in hand decides whether it has logic inputs, not the file.
     void laFlag() { in.flag(); }
 };
@@ -121,7 +109,7 @@ struct Get {
 
 void WriteWaveSection(SheetWriter& out, const WaveRecord& wave)
 {
-    Put put{out};
+    Put put{{out}};
     waveValues(put, wave);
     if (!wave.HasData) return;
     const bool ch1 = wave.PrevShow[1], ch2 = wave.PrevShow[2];
@@ -144,7 +132,7 @@ void WriteWaveSection(SheetWriter& out, const WaveRecord& wave)
 
 void ReadWaveSection(SheetReader& in, WaveRecord& wave)
 {
-    Get get{in};
+    Get get{{in}};
     waveValues(get, wave);
     if (!wave.HasData) return;
     const bool ch1 = wave.PrevShow[1], ch2 = wave.PrevShow[2];

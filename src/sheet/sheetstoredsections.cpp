@@ -2,6 +2,8 @@
 
 #include "sheet/sheetcodec.h"
 #include "sheet/sheetsections.h"
+
+#include "sheet/sheetfields.h"
 #include "stored/memorywaveslot.h"
 #include "stored/recordplay.h"
 #include "stored/recordslot.h"
@@ -148,29 +150,12 @@ template <typename Io, typename Slot> void memoryValues(Io& io, Slot& m)
     io.byte(extra.SnapshotByte);
 }
 
-struct Put {
-    SheetWriter& out;
-    void text(const QString& v) { out.text(v); }
-    void flag(bool v) { out.flag(v); }
-    void int32(int32_t v) { out.integer(v); }
-    void int16(int16_t v) { out.integer(v); }
-    void byte(uint8_t v) { out.integer(v); }
-    void single(float v) { out.single(v); }
-    void real(double v) { out.real(v); }
-    void widened(float v) { out.real(double(v)); }
+// The memory wave section's one field of its own: the screen's point count.
+struct Put : SheetPut {
     void screenPoints() { out.integer(ScreenPointsAfterLoad); }
 };
 
-struct Get {
-    SheetReader& in;
-    void text(QString& v) { v = in.text(); }
-    void flag(bool& v) { v = in.flag(); }
-    void int32(int32_t& v) { v = in.int32(); }
-    void int16(int16_t& v) { v = in.int16(); }
-    void byte(uint8_t& v) { v = static_cast<uint8_t>(in.integer()); }
-    void single(float& v) { v = in.single(); }
-    void real(double& v) { v = in.real(); }
-    void widened(float& v) { v = static_cast<float>(in.real()); }
+struct Get : SheetGet {
     // The window computation sets its own screen width when it draws.
     void screenPoints() { in.integer(); }
 };
@@ -200,7 +185,7 @@ void clearUnfiledChannels(MemoryWaveSlot& m)
 
 void WriteMemoryWaveSection(SheetWriter& out, const MemoryWaveSlot& m)
 {
-    Put put{out};
+    Put put{{out}};
     memoryValues(put, m);
     if (!m.HasData) return;
     const auto arrays = filedArrays(m);
@@ -231,7 +216,7 @@ void WriteMemoryWaveSection(SheetWriter& out, const MemoryWaveSlot& m)
 
 void ReadMemoryWaveSection(SheetReader& in, MemoryWaveSlot& m)
 {
-    Get get{in};
+    Get get{{in}};
     memoryValues(get, m);
     clearUnfiledChannels(m);
     if (!m.HasData) return;
