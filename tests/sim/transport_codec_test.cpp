@@ -15,14 +15,17 @@ namespace {
 
 TEST(Xdr, ReaderFailsCleanlyPastTheEnd)
 {
-    XdrReader in(QByteArray("\0\0\0\x05"
-                            "abc",
-                            7)); // opaque of 5 with 3 bytes behind it
+    // The reader keeps a view, so the bytes must outlive it.
+    const QByteArray shortOpaque("\0\0\0\x05"
+                                 "abc",
+                                 7); // opaque of 5 with 3 bytes behind it
+    XdrReader in(shortOpaque);
     EXPECT_TRUE(in.opaque().isEmpty());
     EXPECT_FALSE(in.ok());
     EXPECT_EQ(in.u32(), 0u);
 
-    XdrReader huge(QByteArray("\xff\xff\xff\xff", 4));
+    const QByteArray hugeLength("\xff\xff\xff\xff", 4);
+    XdrReader huge(hugeLength);
     huge.opaque();
     EXPECT_FALSE(huge.ok());
 }
