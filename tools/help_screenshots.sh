@@ -4,7 +4,8 @@
 # where a window reads from the instrument; then turns them into palette PNGs.
 #   tools/help_screenshots.sh [BUILD_DIR]
 # With --viewer it takes the help viewer open on each manual instead, as
-# PREFIX-en.png and PREFIX-zh.png:
+# PREFIX-en.png and PREFIX-zh.png, and on a chapter, PREFIX-en-chapter.png and
+# PREFIX-zh-chapter.png:
 #   tools/help_screenshots.sh --viewer PREFIX [BUILD_DIR]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -27,7 +28,9 @@ if [ "${1:-}" = --viewer ]; then
     for language in english chinese; do
         mkdir -p "$tmp/$language"
         dialogshot "$tmp/$language" "$language" help "$PWD/help"
-        cp "$tmp/$language/help.png" "$prefix-$([ "$language" = chinese ] && echo zh || echo en).png"
+        short="$([ "$language" = chinese ] && echo zh || echo en)"
+        cp "$tmp/$language/help.png" "$prefix-$short.png"
+        cp "$tmp/$language/help-chapter.png" "$prefix-$short-chapter.png"
     done
     exit 0
 fi

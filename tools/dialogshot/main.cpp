@@ -1,5 +1,5 @@
 // Pictures of the dialogs that need no instrument, made from the real main
-// window in either language: Options, New Document, the FFT settings, the
+// window in either language: Options (its first and IO pages), New Document, the FFT settings, the
 // trigger pattern dialog and the help viewer open on the manual. Used by
 // tools/help_screenshots.sh (help only: tools/help_screenshots.sh --viewer).
 //   selvane-dialogshot OUTDIR english|chinese [help HELP_FOLDER]
@@ -22,8 +22,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QImage>
+#include <QTabWidget>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QUrl>
 #include <cstdio>
 #include <memory>
 
@@ -45,6 +47,10 @@ bool shootDialogs(frmMain* window, const QDir& out)
     {
         frmOptions dialog(window);
         saved &= save(&dialog, out.filePath("options.png"));
+        // The IO Selection page, for the pages on connecting.
+        if (auto* pages = dialog.findChild<QTabWidget*>(QStringLiteral("tbsOptions")))
+            pages->setCurrentIndex(2);
+        saved &= save(&dialog, out.filePath("options-io.png"));
     }
     {
         frmNewDoc dialog(window);
@@ -116,7 +122,14 @@ int main(int argc, char** argv)
         const bool saved = helpOnly ? shootHelp(window.get(), out) : shootDialogs(window.get(), out);
         // The viewer loads its pictures as it lays out; give it a moment.
         QTimer::singleShot(helpOnly ? 300 : 0, window.get(), [&, saved] {
-            if (helpOnly) save(HelpWindow(), out.filePath("help.png"));
+            if (helpOnly) {
+                save(HelpWindow(), out.filePath("help.png"));
+                // A chapter with its pictures, as the reader sees one.
+                QTextBrowser* browser = HelpWindow()->browser();
+                browser->setSource(browser->source().resolved(
+                    QUrl(IsChinese(Language) ? "manual/zh/wave.html" : "manual/en/wave.html")));
+                save(HelpWindow(), out.filePath("help-chapter.png"));
+            }
             QApplication::exit(status = saved ? 0 : 1);
         });
     });

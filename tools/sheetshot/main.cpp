@@ -150,7 +150,7 @@ int main(int argc, char** argv)
         CtrlData.ChDisplay[2] = QStringLiteral("ON");
         trigger(window.get(), "mnuWindowTileHorizontal");
         // The windows' timers tick the channel boxes after the switches first.
-        QTimer::singleShot(1200, window.get(), [&] {
+        QTimer::singleShot(1200, window.get(), [&, analysis] {
             refreshEveryWaveWindow(window.get());
             QTimer::singleShot(300, window.get(), [&, analysis] {
                 status = finish(window.get(), path);
