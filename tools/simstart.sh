@@ -16,7 +16,7 @@ trap cleanup EXIT
     >"$work/sim.out" &
 sim_pid=$!
 for _ in $(seq 100); do
-    grep -qx ready "$work/sim.out" && break
+    grep -qsx ready "$work/sim.out" && break
     sleep 0.1
 done
 grep -qx ready "$work/sim.out" || { echo "kv7200b-sim did not start" >&2; exit 1; }

@@ -180,6 +180,8 @@ void frmMain::ApplyLanguage()
     setToolbarCaptions(Language);
     if (DataSheetTree) DataSheetTree->SetCaptions(Language);
     if (CtrlList) CtrlList->SetCaptions(Language);
+    // An open viewer keeps its page; the other manual comes with the next F1.
+    if (frmHelp* viewer = HelpWindow()) viewer->SetCaptions(Language);
 }
 
 void frmMain::mnuLanguageChinese_Click()
