@@ -15,5 +15,7 @@ trap 'rm -rf "$work"' EXIT
 "$build/sim/kv7200b-sim" write-wfm "$work/stored.wfm" "$@"
 # Enabled of CH3 and CH4 (offsets 68 + 24n + 14) to 0.
 for at in 130 154; do printf '\0' | dd of="$work/stored.wfm" bs=1 seek=$at conv=notrunc status=none; done
-XDG_CONFIG_HOME="$work" xvfb-run -a -s "-screen 0 1280x800x24" \
-    "$build/tools/selvane-sheetshot" "$out" memory "$work/stored.wfm"
+# Opened from its own folder, so the window's title names the file, not a temporary path.
+program="$(realpath "$build/tools/selvane-sheetshot")"
+cd "$work"
+XDG_CONFIG_HOME="$work" xvfb-run -a -s "-screen 0 1280x800x24" "$program" "$out" memory stored.wfm

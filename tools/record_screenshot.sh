@@ -13,5 +13,7 @@ shot_require "$build/tools/selvane-sheetshot" "$build/sim/kv7200b-sim"
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
 "$build/sim/kv7200b-sim" write-rcd "$work/record.rcd" --frames 200 --second-block
-XDG_CONFIG_HOME="$work" xvfb-run -a -s "-screen 0 1280x800x24" \
-    "$build/tools/selvane-sheetshot" "$out" record "$work/record.rcd"
+# Opened from its own folder, so the window's title names the file, not a temporary path.
+program="$(realpath "$build/tools/selvane-sheetshot")"
+cd "$work"
+XDG_CONFIG_HOME="$work" xvfb-run -a -s "-screen 0 1280x800x24" "$program" "$out" record record.rcd

@@ -5,8 +5,8 @@
 #include "controller/frmCtrlList.h"
 #include "document/sheetstate.h"
 #include "frame/frmAbout.h"
+#include "frame/frmHelp.h"
 #include "frame/frmOptions.h"
-#include "frame/helpfile.h"
 #include "frame/recentfiles.h"
 #include "frame/tilelayout.h"
 #include "link/connection.h"
@@ -156,7 +156,7 @@ void frmMain::mnuWindowArrange(int mode)
 
 void frmMain::mnuHelpContents_Click()
 {
-    OpenHelpFile(Language);
+    OpenHelpFile(Language, this);
 }
 
 void frmMain::mnuHelpAbout_Click()
@@ -180,6 +180,8 @@ void frmMain::ApplyLanguage()
     setToolbarCaptions(Language);
     if (DataSheetTree) DataSheetTree->SetCaptions(Language);
     if (CtrlList) CtrlList->SetCaptions(Language);
+    // An open viewer keeps its page; the other manual comes with the next F1.
+    if (frmHelp* viewer = HelpWindow()) viewer->SetCaptions(Language);
 }
 
 void frmMain::mnuLanguageChinese_Click()

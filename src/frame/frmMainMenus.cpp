@@ -61,12 +61,12 @@ void frmMain::createMenus()
 void frmMain::createFileMenu()
 {
     mnuFile = menuBar()->addMenu(namedMenu(this, "mnuFile"))->menu();
-    entry(this, mnuFile, "mnuFileNew", &frmMain::mnuFileNew_Click);
-    entry(this, mnuFile, "mnuFileOpen", &frmMain::mnuFileOpen_Click);
+    entry(this, mnuFile, "mnuFileNew", &frmMain::mnuFileNew_Click)->setShortcut(Qt::CTRL | Qt::Key_N);
+    entry(this, mnuFile, "mnuFileOpen", &frmMain::mnuFileOpen_Click)->setShortcut(Qt::CTRL | Qt::Key_O);
     namedBar(mnuFile, "mnuFileBar0");
     entry(this, mnuFile, "mnuFileSaveDataSheet", &frmMain::mnuFileSaveDataSheet_Click);
     entry(this, mnuFile, "mnuFileSaveCtrlFile", &frmMain::mnuFileSaveCtrlFile_Click);
-    entry(this, mnuFile, "mnuFileSaveAll", &frmMain::mnuFileSaveAll_Click);
+    entry(this, mnuFile, "mnuFileSaveAll", &frmMain::mnuFileSaveAll_Click)->setShortcut(Qt::CTRL | Qt::Key_S);
     namedBar(mnuFile, "mnuFileBar1");
     entry(this, mnuFile, "mnuFilePageSetup", &frmMain::mnuFilePageSetup_Click);
     mnuFileBar3 = namedBar(mnuFile, "mnuFileBar3");

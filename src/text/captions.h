@@ -37,8 +37,9 @@ enum class CaptionList : int {
     ResourceDialog,     // DlgResource
     WaveSetting,        // frmWaveSetting, the FFT dialog
     About,              // frmAbout: the start of its title, its button
+    HelpViewer,         // frmHelp: its title and the four buttons
 };
-inline constexpr int CaptionListCount = static_cast<int>(CaptionList::About) + 1;
+inline constexpr int CaptionListCount = static_cast<int>(CaptionList::HelpViewer) + 1;
 
 // Which of several meanings an English word has where Chinese tells them apart.
 enum class WordSense : unsigned char {

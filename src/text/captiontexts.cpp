@@ -289,6 +289,10 @@ constexpr const char16_t* WaveSettingZh[] = {
 // frmAbout: the title before the program's name, the button; the product texts stay as they are
 constexpr const char16_t* AboutEn[] = {u"About ", u"OK"};
 constexpr const char16_t* AboutZh[] = {u"关于 ", u"确定"};
+
+// frmHelp: the title until a page names itself, then Back, Forward, Home, Contents
+constexpr const char16_t* HelpViewerEn[] = {u"Help", u"Back", u"Forward", u"Home", u"Contents"};
+constexpr const char16_t* HelpViewerZh[] = {u"帮助", u"后退", u"前进", u"主页", u"目录"};
 // clang-format on
 
 template <std::size_t N> QStringList toList(const char16_t* const (&texts)[N])
@@ -428,6 +432,7 @@ CaptionData MakeCaptionData(CaptionList which)
     case CaptionList::ResourceDialog: return lists(ResourceDialogEn, ResourceDialogZh);
     case CaptionList::WaveSetting: return lists(WaveSettingEn, WaveSettingZh);
     case CaptionList::About: return lists(AboutEn, AboutZh);
+    case CaptionList::HelpViewer: return lists(HelpViewerEn, HelpViewerZh);
     }
     return {};
 }

@@ -13,6 +13,7 @@ int Language = LanguageEnglish;
 namespace {
 const QString section = QStringLiteral("Selvane_Language_KV7200B");
 const QString key = QStringLiteral("Language");
+QString helpFolder;
 } // namespace
 
 void LoadLanguageSetting()
@@ -35,6 +36,7 @@ QString HelpFileName(int language)
 // Beside the program in the build tree; under the data folder when installed.
 QString HelpFilePath(int language)
 {
+    if (!helpFolder.isEmpty()) return QDir(helpFolder).filePath(HelpFileName(language));
     const QDir programDir(QCoreApplication::applicationDirPath());
     const QString beside = programDir.filePath(HelpFileName(language));
     const QString installed = QDir::cleanPath(
@@ -42,9 +44,15 @@ QString HelpFilePath(int language)
     return QFile::exists(beside) || !QFile::exists(installed) ? beside : installed;
 }
 
+void SetHelpFolder(const QString& folder)
+{
+    helpFolder = folder;
+}
+
 void ResetLanguageState()
 {
     Language = LanguageEnglish;
+    helpFolder.clear();
     LoadMessages();
     ValueValid = false;
     SetLevelQuery(nullptr);

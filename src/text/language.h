@@ -20,6 +20,8 @@ void SaveLanguageSetting();
 // The help file of a language, by name and as the path beside the program.
 QString HelpFileName(int language);
 QString HelpFilePath(int language);
+// Takes the help files from folder instead; empty goes back to the program's own.
+void SetHelpFolder(const QString& folder);
 
 // Back to English with the catalogue loaded, as at a first start.
 void ResetLanguageState();

@@ -1,8 +1,8 @@
 #include "frame/frmAbout.h"
-#include "frame/helpfile.h"
-#include "text/language.h"
-#include "state/programstate.h"
+#include "frame/frmHelp.h"
 #include "platform/testplatform.h"
+#include "state/programstate.h"
+#include "text/language.h"
 
 #include <QCoreApplication>
 #include <QLabel>

@@ -10,7 +10,9 @@ trap 'rm -rf "$prefix"' EXIT
 "$cmake" --install "$build" --prefix "$prefix" >"$prefix/install.log"
 for file in bin/selvane bin/selvane-cli bin/kv7200b-sim share/applications/selvane.desktop \
     lib/udev/rules.d/60-selvane-usbtmc.rules share/selvane/help/KV7200help.html \
-    share/selvane/help/KV7200help_Chinese.html share/bash-completion/completions/selvane-cli \
+    share/selvane/help/KV7200help_Chinese.html share/selvane/help/manual/style.css \
+    share/selvane/help/manual/zh/connecting.html share/selvane/help/manual/images/en/wave.png \
+    share/bash-completion/completions/selvane-cli \
     share/man/man1/selvane-cli.1.gz; do
     [ -e "$prefix/$file" ] || { echo "not installed: $file"; exit 1; }
 done

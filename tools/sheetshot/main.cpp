@@ -6,6 +6,7 @@
 // (tools/memory_screenshot.sh).
 // With "record FILE.rcd" it opens one record window on the file instead and
 // takes the picture mid-play (tools/record_screenshot.sh).
+// SHEETSHOT_LANGUAGE=chinese takes the pictures in Chinese.
 #include "analysis/frmPassFailed.h"
 #include "analysis/measurerecord.h"
 #include "controller/ctrlstate.h"
@@ -13,6 +14,7 @@
 #include "frame/frmStartup.h"
 #include "link/linkstate.h"
 #include "platform/cliplatform.h"
+#include "text/language.h"
 #include "text/productinfo.h"
 
 #include <QAbstractButton>
@@ -119,6 +121,10 @@ int main(int argc, char** argv)
     auto cli = std::make_unique<CliPlatform>();
     if (record) cli->queueOpenPath(QString::fromLocal8Bit(argv[3]));
     installPlatform(std::move(cli));
+    if (qgetenv("SHEETSHOT_LANGUAGE") == "chinese") {
+        Language = LanguageChinese;
+        SaveLanguageSetting();
+    }
 
     std::unique_ptr<frmMain> window(Main());
     window->resize(1200, 760);
@@ -144,7 +150,7 @@ int main(int argc, char** argv)
         CtrlData.ChDisplay[2] = QStringLiteral("ON");
         trigger(window.get(), "mnuWindowTileHorizontal");
         // The windows' timers tick the channel boxes after the switches first.
-        QTimer::singleShot(1200, window.get(), [&] {
+        QTimer::singleShot(1200, window.get(), [&, analysis] {
             refreshEveryWaveWindow(window.get());
             QTimer::singleShot(300, window.get(), [&, analysis] {
                 status = finish(window.get(), path);
