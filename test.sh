@@ -5,6 +5,7 @@ cd "$(dirname "$0")"
 source scripts/common.sh
 selvane_install
 tools/layercheck.sh
+tools/headercheck.sh
 selvane_build build -DSELVANE_WERROR=ON
 export QT_QPA_PLATFORM=offscreen
 cd build

@@ -20,11 +20,11 @@ void prepare(const char* method)
     CtrlData.AcqType = ValueWord(QStringLiteral("AVERAGE"));
 }
 
-const char* const largest[] = {"ALTERNATIVE", "PATTERN"};
+const char* const LargestLayouts[] = {"ALTERNATIVE", "PATTERN"};
 
 void BM_BuildCtrlTree(benchmark::State& state)
 {
-    prepare(largest[state.range(0)]);
+    prepare(LargestLayouts[state.range(0)]);
     for (auto _ : state)
         benchmark::DoNotOptimize(BuildCtrlTree());
 }
@@ -32,7 +32,7 @@ BENCHMARK(BM_BuildCtrlTree)->DenseRange(0, 1)->Unit(benchmark::kMicrosecond);
 
 void BM_RebuildTree(benchmark::State& state)
 {
-    prepare(largest[state.range(0)]);
+    prepare(LargestLayouts[state.range(0)]);
     frmCtrlList list;
     list.mnuExpand_Click();
     for (auto _ : state) {

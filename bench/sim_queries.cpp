@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int kTimeoutMs = 5000;
+constexpr int TimeoutMs = 5000;
 
 // One simulator and one connection for the whole run.
 struct Peer {
@@ -25,13 +25,13 @@ struct Peer {
         if (!sim.start({"--pty", "off", "--portmapper-port", "off"})) return;
         socket.connectToHost("127.0.0.1", sim.port("socket"));
         socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-        ready = socket.waitForConnected(kTimeoutMs);
+        ready = socket.waitForConnected(TimeoutMs);
     }
 
     bool waitFor(qint64 count)
     {
         while (socket.bytesAvailable() < count) {
-            if (!socket.waitForReadyRead(kTimeoutMs)) return false;
+            if (!socket.waitForReadyRead(TimeoutMs)) return false;
         }
         return true;
     }
@@ -41,7 +41,7 @@ struct Peer {
     {
         socket.write(query);
         while (!socket.canReadLine()) {
-            if (!socket.waitForReadyRead(kTimeoutMs)) return false;
+            if (!socket.waitForReadyRead(TimeoutMs)) return false;
         }
         socket.readLine();
         return true;

@@ -18,16 +18,16 @@
 
 namespace {
 
-const QString kLoopback = "127.0.0.1";
+const QString Loopback = "127.0.0.1";
 
 struct PortOption {
     const char* name;
     const char* defaultValue;
 };
-const PortOption kSocketPort{"socket-port", "5025"};
-const PortOption kVxi11Port{"vxi11-port", "0"};
-const PortOption kPortmapperPort{"portmapper-port", "111"};
-const PortOption kHislipPort{"hislip-port", "4880"};
+const PortOption SocketPort{"socket-port", "5025"};
+const PortOption Vxi11Port{"vxi11-port", "0"};
+const PortOption PortmapperPort{"portmapper-port", "111"};
+const PortOption HislipPort{"hislip-port", "4880"};
 
 void addOptions(QCommandLineParser& parser)
 {
@@ -37,12 +37,12 @@ void addOptions(QCommandLineParser& parser)
         "      kv7200b-sim write-rcd OUT.rcd [--frames N] [--second-block]");
     parser.addHelpOption();
     parser.addVersionOption();
-    for (const PortOption& port : {kSocketPort, kVxi11Port, kPortmapperPort, kHislipPort})
+    for (const PortOption& port : {SocketPort, Vxi11Port, PortmapperPort, HislipPort})
         parser.addOption(
             {port.name,
              QString("TCP port (default %1); 0 picks a free one, off disables.").arg(port.defaultValue),
              "port", port.defaultValue});
-    parser.addOption({"portmapper-address", "Address the portmapper listens on.", "address", kLoopback});
+    parser.addOption({"portmapper-address", "Address the portmapper listens on.", "address", Loopback});
     parser.addOption({"pty", "The RS232 pseudo-terminal: on or off.", "on|off", "on"});
     parser.addOption({"idn", "The *IDN? reply: vendor,model,serial,firmware.", "text"});
     parser.addOption({"silent", "Never answer this query (repeatable).", "query"});
@@ -116,12 +116,12 @@ class Simulator {
     {
         QString error;
         if (!faults_.openLog(&error)) fail("can't write the log: " + error);
-        startTcp(socket_, kSocketPort, "socket", kLoopback);
-        startTcp(vxi11_, kVxi11Port, "vxi11", kLoopback);
+        startTcp(socket_, SocketPort, "socket", Loopback);
+        startTcp(vxi11_, Vxi11Port, "vxi11", Loopback);
         if (vxi11_.port() != 0)
-            portmapper_.registerService(vxi11::kCoreProgram, vxi11::kVersion, 6, vxi11_.port());
-        startTcp(portmapper_, kPortmapperPort, "portmapper", parser_.value("portmapper-address"));
-        startTcp(hislip_, kHislipPort, "hislip", kLoopback);
+            portmapper_.registerService(vxi11::CoreProgram, vxi11::Version, 6, vxi11_.port());
+        startTcp(portmapper_, PortmapperPort, "portmapper", parser_.value("portmapper-address"));
+        startTcp(hislip_, HislipPort, "hislip", Loopback);
         startPty();
         announce("ready");
     }

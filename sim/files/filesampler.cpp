@@ -10,7 +10,7 @@
 namespace {
 
 // Instants looked at within one peak-detect step.
-constexpr int kPeakLooks = 8;
+constexpr int PeakLooks = 8;
 
 bool isPeak(const SimState& state)
 {
@@ -19,7 +19,7 @@ bool isPeak(const SimState& state)
 
 double centreTime(const SimState& state, const Frame& frame, int channel)
 {
-    return pointTime(state, frame, channel, kScreenPointCount / 2);
+    return pointTime(state, frame, channel, ScreenPointCount / 2);
 }
 
 QByteArray peakPairs(const SimState& state, const Frame& frame, int channel, int steps)
@@ -30,8 +30,8 @@ QByteArray peakPairs(const SimState& state, const Frame& frame, int channel, int
     QByteArray codes(2 * steps, '\0');
     for (int k = 0; k < steps; ++k) {
         double low = HUGE_VAL, high = -HUGE_VAL;
-        for (int look = 0; look < kPeakLooks; ++look) {
-            const double volts = sampledVolts(state, channel, first + (k + double(look) / kPeakLooks) * step);
+        for (int look = 0; look < PeakLooks; ++look) {
+            const double volts = sampledVolts(state, channel, first + (k + double(look) / PeakLooks) * step);
             low = std::min(low, volts);
             high = std::max(high, volts);
         }
@@ -74,20 +74,20 @@ double memoryStartTime(const SimState& state, const Frame& frame, int channel, i
 QByteArray memoryCodes(const SimState& state, const Frame& frame, int channel, int count)
 {
     if (!isPeak(state)) return channelRecordCodes(state, frame, channel, count);
-    if (channel < 0 || channel >= kChannels || !frame.captured[channel] || count <= 1) return {};
+    if (channel < 0 || channel >= Channels || !frame.captured[channel] || count <= 1) return {};
     return peakPairs(state, frame, channel, count / 2);
 }
 
 QByteArray screenRows(const SimState& state, const Frame& frame, int channel)
 {
     const QByteArray codes = channelScreenCodes(state, frame, channel);
-    if (codes.size() < 2 * kScreenPointCount) {
+    if (codes.size() < 2 * ScreenPointCount) {
         QByteArray rows(codes.size(), '\0');
         std::transform(codes.begin(), codes.end(), rows.begin(), [](char c) { return screenRow(quint8(c)); });
         return rows;
     }
-    QByteArray rows(kScreenPointCount, '\0');
-    for (int i = 0; i < kScreenPointCount; ++i)
-        rows[i] = screenRow((quint8(codes[i]) + quint8(codes[i + kScreenPointCount])) / 2);
+    QByteArray rows(ScreenPointCount, '\0');
+    for (int i = 0; i < ScreenPointCount; ++i)
+        rows[i] = screenRow((quint8(codes[i]) + quint8(codes[i + ScreenPointCount])) / 2);
     return rows;
 }

@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr int kUsageError = 2;
-constexpr int kWriteError = 1;
-constexpr int kDefaultFrames = 100;
+constexpr int UsageError = 2;
+constexpr int WriteError = 1;
+constexpr int DefaultFrames = 100;
 
 int fail(const QString& message, int code)
 {
@@ -51,7 +51,7 @@ int save(const QString& path, const QByteArray& bytes)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return fail(QString("cannot write %1: %2").arg(path, file.errorString()), kWriteError);
+        return fail(QString("cannot write %1: %2").arg(path, file.errorString()), WriteError);
     return 0;
 }
 
@@ -93,10 +93,10 @@ QString refusedOption(const SimState& state, const QStringList& flags)
 
 std::optional<int> frameCount(const Arguments& arguments, bool secondBlock)
 {
-    if (arguments.frames.isEmpty()) return kDefaultFrames;
+    if (arguments.frames.isEmpty()) return DefaultFrames;
     bool ok = false;
     const int frames = arguments.frames.toInt(&ok);
-    const int limit = secondBlock ? kRcdMaxFramesWithSecond : kRcdMaxFrames;
+    const int limit = secondBlock ? RcdMaxFramesWithSecond : RcdMaxFrames;
     if (!ok || frames < 1 || frames > limit) return std::nullopt;
     return frames;
 }
@@ -106,14 +106,14 @@ std::optional<int> frameCount(const Arguments& arguments, bool secondBlock)
 int runWriteWfm(const QStringList& args)
 {
     const Arguments arguments = parse(args, {"--alternation", "--peak", "--roll", "--long-memory"}, false);
-    if (!arguments.error.isEmpty()) return fail("write-wfm: " + arguments.error, kUsageError);
+    if (!arguments.error.isEmpty()) return fail("write-wfm: " + arguments.error, UsageError);
     if (arguments.flags.contains("--long-memory") && arguments.flags.contains("--alternation"))
-        return fail("write-wfm: long memory is not available in alternate trigger", kUsageError);
+        return fail("write-wfm: long memory is not available in alternate trigger", UsageError);
     Instrument instrument;
     send(instrument, wfmSetup(arguments.flags));
     const SimState& state = instrument.state();
     if (const QString refused = refusedOption(state, arguments.flags); !refused.isEmpty())
-        return fail("write-wfm: the instrument did not take " + refused, kUsageError);
+        return fail("write-wfm: the instrument did not take " + refused, UsageError);
     const WfmRequest request{modelOf(instrument), arguments.flags.contains("--long-memory")};
     return save(arguments.path, writeWfm(wfmContentOf(state, Acquisition(state).frame(), request)));
 }
@@ -121,13 +121,13 @@ int runWriteWfm(const QStringList& args)
 int runWriteRcd(const QStringList& args)
 {
     const Arguments arguments = parse(args, {"--second-block"}, true);
-    if (!arguments.error.isEmpty()) return fail("write-rcd: " + arguments.error, kUsageError);
+    if (!arguments.error.isEmpty()) return fail("write-rcd: " + arguments.error, UsageError);
     const bool secondBlock = arguments.flags.contains("--second-block");
     const std::optional<int> frames = frameCount(arguments, secondBlock);
     if (!frames)
         return fail("write-rcd: --frames takes a number from 1 to " +
-                        QString::number(secondBlock ? kRcdMaxFramesWithSecond : kRcdMaxFrames),
-                    kUsageError);
+                        QString::number(secondBlock ? RcdMaxFramesWithSecond : RcdMaxFrames),
+                    UsageError);
     Instrument instrument;
     // The second block records the next channel on, so CH2 joins CH1.
     send(instrument, {":CHANNEL1:DISPLAY ON"});

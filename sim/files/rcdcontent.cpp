@@ -10,7 +10,7 @@ namespace {
 
 int firstShownAfter(const SimState& state, int channel)
 {
-    for (int n = channel + 1; n < kChannels; ++n)
+    for (int n = channel + 1; n < Channels; ++n)
         if (state.channels[n].display) return n;
     return -1;
 }
@@ -25,7 +25,7 @@ int sourceOf(const SimState& state)
 int secondOf(const SimState& state, int source)
 {
     const int next = firstShownAfter(state, source);
-    return next < 0 ? (source + 1) % kChannels : next;
+    return next < 0 ? (source + 1) % Channels : next;
 }
 
 // The recording keeps the instrument sweeping, whatever its sweep mode.
@@ -52,7 +52,7 @@ QVector<QByteArray> rowsOf(const SimState& state, const QVector<Frame>& frames, 
 
 void fillChannels(RcdContent& content, const SimState& state)
 {
-    for (int n = 0; n < kChannels; ++n) {
+    for (int n = 0; n < Channels; ++n) {
         const ChannelState& channel = state.channels[n];
         content.channels[n] = {channel.display, microvoltsPerDivision(channel), positionCodes(channel)};
     }

@@ -17,7 +17,7 @@ struct RcdRequest {
 
 // The most frames a file holds: the reader takes 1,100,001 bytes, and the
 // first block must end where the second begins.
-constexpr int kRcdMaxFrames = (1100001 - kRcdHeaderSize) / kRcdFrameSize;
-constexpr int kRcdMaxFramesWithSecond = kRcdFramesBeforeSecond;
+constexpr int RcdMaxFrames = (1100001 - RcdHeaderSize) / RcdFrameSize;
+constexpr int RcdMaxFramesWithSecond = RcdFramesBeforeSecond;
 
 RcdContent rcdContentOf(const SimState& state, const RcdRequest& request);

@@ -11,7 +11,7 @@ namespace {
 struct ChannelOffsets {
     int on, scale, shift;
 };
-constexpr ChannelOffsets kChannelFields[4] = {{60, 64, 68}, {70, 72, 76}, {78, 80, 84}, {86, 88, 92}};
+constexpr ChannelOffsets ChannelFields[4] = {{60, 64, 68}, {70, 72, 76}, {78, 80, 84}, {86, 88, 92}};
 
 bool hasSecond(const RcdContent& content)
 {
@@ -21,19 +21,19 @@ bool hasSecond(const RcdContent& content)
 int firstBlockFrames(const RcdContent& content)
 {
     const int count = static_cast<int>(content.frames.size());
-    return hasSecond(content) ? std::min(count, kRcdFramesBeforeSecond) : count;
+    return hasSecond(content) ? std::min(count, RcdFramesBeforeSecond) : count;
 }
 
 int secondCount(const RcdContent& content)
 {
-    return static_cast<int>(content.secondFrames.size()) * kRcdFrameSize;
+    return static_cast<int>(content.secondFrames.size()) * RcdFrameSize;
 }
 
 // A file with a second block is never shorter than the reader's minimum.
 int frameAreaSize(const RcdContent& content)
 {
-    if (hasSecond(content)) return std::max(kRcdSecondStart + secondCount(content), kRcdSecondMinimum);
-    return firstBlockFrames(content) * kRcdFrameSize;
+    if (hasSecond(content)) return std::max(RcdSecondStart + secondCount(content), RcdSecondMinimum);
+    return firstBlockFrames(content) * RcdFrameSize;
 }
 
 std::int16_t lastFrameOf(const RcdContent& content)
@@ -44,7 +44,7 @@ std::int16_t lastFrameOf(const RcdContent& content)
 
 void putChannel(QByteArray& out, int channel, const RcdChannel& record)
 {
-    const ChannelOffsets& at = kChannelFields[channel];
+    const ChannelOffsets& at = ChannelFields[channel];
     putLe<quint8>(out, at.on, record.on ? 1 : 0);
     putLe<qint32>(out, at.scale, record.scale);
     putLe<qint16>(out, at.shift, record.shift);
@@ -69,17 +69,17 @@ void putHeader(QByteArray& out, const RcdContent& content)
 void putFrames(QByteArray& out, int start, const QVector<QByteArray>& frames, int count)
 {
     for (int k = 0; k < count; ++k)
-        putBytes(out, start + k * kRcdFrameSize, kRcdFrameSize, frames[k]);
+        putBytes(out, start + k * RcdFrameSize, RcdFrameSize, frames[k]);
 }
 
 } // namespace
 
 QByteArray writeRcd(const RcdContent& content)
 {
-    QByteArray out(kRcdHeaderSize + frameAreaSize(content), '\0');
+    QByteArray out(RcdHeaderSize + frameAreaSize(content), '\0');
     putHeader(out, content);
-    putFrames(out, kRcdHeaderSize, content.frames, firstBlockFrames(content));
-    putFrames(out, kRcdHeaderSize + kRcdSecondStart, content.secondFrames,
+    putFrames(out, RcdHeaderSize, content.frames, firstBlockFrames(content));
+    putFrames(out, RcdHeaderSize + RcdSecondStart, content.secondFrames,
               static_cast<int>(content.secondFrames.size()));
     return out;
 }

@@ -10,16 +10,16 @@
 #include <array>
 #include <cstdint>
 
-constexpr int kRcdHeaderSize = 128;
-constexpr int kRcdFrameSize = 600;
+constexpr int RcdHeaderSize = 128;
+constexpr int RcdFrameSize = 600;
 // Where the second block starts, counted from the end of the header, and
 // the least frame area a file with a second block has.
-constexpr int kRcdSecondStart = 0x7FF80;
-constexpr int kRcdSecondMinimum = 0x80000;
+constexpr int RcdSecondStart = 0x7FF80;
+constexpr int RcdSecondMinimum = 0x80000;
 // Frames of the first block that fit before the second block.
-constexpr int kRcdFramesBeforeSecond = kRcdSecondStart / kRcdFrameSize;
+constexpr int RcdFramesBeforeSecond = RcdSecondStart / RcdFrameSize;
 
-constexpr std::int32_t kRcdSourceFromAlt = 4;
+constexpr std::int32_t RcdSourceFromAlt = 4;
 
 struct RcdChannel {
     bool on = false;

@@ -29,8 +29,8 @@ std::int64_t picoseconds(double seconds)
 // Even, so peak pairs never split.
 int sampleCountOf(const SimState& state, bool longMemory)
 {
-    if (longMemory) return kWfmLongMemorySamples;
-    return std::clamp(state.timebase.memorySize, 2, kWfmBlockSize) & ~1;
+    if (longMemory) return WfmLongMemorySamples;
+    return std::clamp(state.timebase.memorySize, 2, WfmBlockSize) & ~1;
 }
 
 int stepsOf(const SimState& state, int count)
@@ -41,7 +41,7 @@ int stepsOf(const SimState& state, int count)
 // A channel that runs on the time base, to ask for the time base's rates.
 int channelOn(const SimState& state, int timeBase)
 {
-    for (int n = 0; n < kChannels; ++n)
+    for (int n = 0; n < Channels; ++n)
         if (timeBaseOfChannel(state, n) == timeBase) return n;
     return 0;
 }
@@ -125,7 +125,7 @@ WfmContent wfmContentOf(const SimState& state, const Frame& frame, const WfmRequ
     content.timeBaseA = timeBaseOf(state, frame, 0, count);
     if (isAlternation(state)) content.timeBaseB = timeBaseOf(state, frame, 1, count);
     if (isRoll(state)) content.rollPosition = rollPositionOf(state, count);
-    for (int n = 0; n < kChannels; ++n)
+    for (int n = 0; n < Channels; ++n)
         content.channels[n] = channelOf(state, frame, n, count);
     return content;
 }

@@ -17,6 +17,6 @@ struct WfmRequest {
     bool longMemory = false;
 };
 
-constexpr int kWfmLongMemorySamples = 2 * kWfmBlockSize;
+constexpr int WfmLongMemorySamples = 2 * WfmBlockSize;
 
 WfmContent wfmContentOf(const SimState& state, const Frame& frame, const WfmRequest& request);

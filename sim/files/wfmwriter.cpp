@@ -6,11 +6,11 @@
 
 namespace {
 
-constexpr int kChannelTable = 68;
-constexpr int kChannelRecordSize = 24;
-constexpr int kTimeBaseA = 164;
-constexpr int kTimeBaseB = 268;
-constexpr int kEdgeFileSize = kWfmHeaderSize + 4 * kWfmBlockSize;
+constexpr int ChannelTable = 68;
+constexpr int ChannelRecordSize = 24;
+constexpr int TimeBaseA = 164;
+constexpr int TimeBaseB = 268;
+constexpr int EdgeFileSize = kWfmHeaderSize + 4 * WfmBlockSize;
 
 bool isAlternation(const WfmContent& content)
 {
@@ -19,22 +19,22 @@ bool isAlternation(const WfmContent& content)
 
 // The instrument's deepest memory; a larger count in the header is written
 // as it is, but the blocks stop there.
-constexpr int kMaxPitch = 0x80000;
+constexpr int MaxPitch = 0x80000;
 
 int alternationPitch(const WfmContent& content)
 {
-    return std::clamp(content.timeBaseA.sampleCount, 0, kMaxPitch);
+    return std::clamp(content.timeBaseA.sampleCount, 0, MaxPitch);
 }
 
 int fileSize(const WfmContent& content)
 {
     if (isAlternation(content)) return kWfmAlternationStart + 4 * alternationPitch(content);
-    return kEdgeFileSize;
+    return EdgeFileSize;
 }
 
 void putChannel(QByteArray& out, int channel, const WfmChannel& record)
 {
-    const int at = kChannelTable + channel * kChannelRecordSize;
+    const int at = ChannelTable + channel * ChannelRecordSize;
     putLe<qint32>(out, at, record.scaleDisplay);
     putLe<qint16>(out, at + 4, record.shiftDisplay);
     putLe<quint8>(out, at + 14, record.enabled ? 1 : 0);
@@ -61,13 +61,13 @@ void putHeader(QByteArray& out, const WfmContent& content)
     putLe<qint32>(out, 60, content.timeBaseA.sampleCount);
     for (int n = 0; n < 4; ++n)
         putChannel(out, n, content.channels[n]);
-    putTimeBase(out, kTimeBaseA, content.timeBaseA);
+    putTimeBase(out, TimeBaseA, content.timeBaseA);
     putLe<qint64>(out, 184, content.extraTime);
     putLe<quint8>(out, 200, content.triggerKind);
     putLe<quint8>(out, 202, content.triggerSourceA);
     putLe<quint8>(out, 232, content.triggerSourceB);
-    putLe<qint32>(out, kTimeBaseB, content.timeBaseB.sampleCount);
-    putTimeBase(out, kTimeBaseB + 4, content.timeBaseB);
+    putLe<qint32>(out, TimeBaseB, content.timeBaseB.sampleCount);
+    putTimeBase(out, TimeBaseB + 4, content.timeBaseB);
     putLe<quint8>(out, 308, static_cast<quint8>(content.timeMode));
     putLe<quint8>(out, 402, content.peakFlags);
     putLe<qint32>(out, 404, content.acquireMode);
@@ -90,8 +90,8 @@ WfmBlock wfmBlockOf(const WfmContent& content, int channel)
 {
     if (isAlternation(content))
         return {kWfmAlternationStart + channel * alternationPitch(content), alternationPitch(content)};
-    if (content.longMemory) return {kWfmHeaderSize + (channel / 2) * 2 * kWfmBlockSize, 2 * kWfmBlockSize};
-    return {kWfmHeaderSize + channel * kWfmBlockSize, kWfmBlockSize};
+    if (content.longMemory) return {kWfmHeaderSize + (channel / 2) * 2 * WfmBlockSize, 2 * WfmBlockSize};
+    return {kWfmHeaderSize + channel * WfmBlockSize, WfmBlockSize};
 }
 
 QByteArray writeWfm(const WfmContent& content)

@@ -13,7 +13,7 @@ constexpr int kWfmHeaderSize = 420;
 constexpr int kWfmAlternationStart = kWfmHeaderSize + 84;
 // Outside alternate trigger each channel owns a block of this size; with
 // long memory a pair of channels shares two of them.
-constexpr int kWfmBlockSize = 0x2000;
+constexpr int WfmBlockSize = 0x2000;
 
 enum class WfmTimeMode : std::uint8_t { YT = 0, XY = 1, Roll = 2 };
 

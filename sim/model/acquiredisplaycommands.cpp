@@ -7,7 +7,7 @@
 
 namespace {
 
-const int kBaudRates[] = {300, 600, 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200};
+const int BaudRates[] = {300, 600, 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200};
 
 QByteArray averagesSetting(const ScpiCommand& command, int& averages)
 {
@@ -112,8 +112,8 @@ bool fftCommand(const QByteArray& field, const ScpiCommand& command, SimState& s
 QByteArray baudSetting(const ScpiCommand& command, int& baud)
 {
     int requested = baud;
-    const QByteArray reply = integerSetting(command, requested, kBaudRates[0], 115200);
-    if (std::find(std::begin(kBaudRates), std::end(kBaudRates), requested) != std::end(kBaudRates))
+    const QByteArray reply = integerSetting(command, requested, BaudRates[0], 115200);
+    if (std::find(std::begin(BaudRates), std::end(BaudRates), requested) != std::end(BaudRates))
         baud = requested;
     return reply;
 }

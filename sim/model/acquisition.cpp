@@ -5,8 +5,8 @@
 #include <algorithm>
 
 namespace {
-constexpr double kRefreshGap = 0.02137; // the instrument's own pause between sweeps
-constexpr int kRollStep = 100;
+constexpr double RefreshGap = 0.02137; // the instrument's own pause between sweeps
+constexpr int RollStep = 100;
 } // namespace
 
 Acquisition::Acquisition(const SimState& state)
@@ -43,7 +43,7 @@ void Acquisition::deliver(SimState& state, Delivery what)
 
 void Acquisition::catchUp(SimState& state)
 {
-    for (int channel = 0; channel < kChannels; ++channel) {
+    for (int channel = 0; channel < Channels; ++channel) {
         if (state.running && frame_.captured[channel] != state.channels[channel].display) {
             startReading(state);
             return;
@@ -59,7 +59,7 @@ void Acquisition::force(SimState& state)
 
 double Acquisition::frameInterval(const SimState& state) const
 {
-    return kRefreshGap + 12 * std::max(state.timebase.main.scale, state.timebase.windowB.scale);
+    return RefreshGap + 12 * std::max(state.timebase.main.scale, state.timebase.windowB.scale);
 }
 
 void Acquisition::takeFrame(SimState& state, bool forced)
@@ -68,7 +68,7 @@ void Acquisition::takeFrame(SimState& state, bool forced)
     Frame next = frame_;
     if (state.timebase.format == TimeFormat::Roll) {
         next.rollFill =
-            lastFormat_ == TimeFormat::Roll ? std::min(300, frame_.rollFill + kRollStep) : kRollStep;
+            lastFormat_ == TimeFormat::Roll ? std::min(300, frame_.rollFill + RollStep) : RollStep;
         next.start = {clock_, clock_};
         next.triggered = false;
     } else {
@@ -83,7 +83,7 @@ void Acquisition::takeFrame(SimState& state, bool forced)
         if (sweep == Sweep::Single) state.running = false;
     }
     lastFormat_ = state.timebase.format;
-    for (int channel = 0; channel < kChannels; ++channel)
+    for (int channel = 0; channel < Channels; ++channel)
         next.captured[channel] = state.channels[channel].display;
     frame_ = next;
     waiting_ = false;

@@ -11,7 +11,7 @@ struct Frame {
     // Trigger time of each time base (the main one, or A and B in
     // alternate trigger); in Roll the time of the newest point.
     std::array<double, 2> start{};
-    std::array<bool, kChannels> captured{}; // the channel was on for this frame
+    std::array<bool, Channels> captured{}; // the channel was on for this frame
     bool triggered = false;
     int rollFill = 300; // Roll: screen positions (of 300) that hold data
 };

@@ -8,15 +8,15 @@
 
 namespace {
 
-constexpr double kLowestScale = 2e-3;
-constexpr double kHighestScale = 10.0;
-constexpr double kPositionLimit = 10.0; // divisions either side of the centre
+constexpr double LowestScale = 2e-3;
+constexpr double HighestScale = 10.0;
+constexpr double PositionLimit = 10.0; // divisions either side of the centre
 
 QByteArray scaleSetting(const ScpiCommand& command, ChannelState& channel)
 {
     if (command.query) return sciReply(channel.scale * channel.probe);
     const std::optional<double> value = parseNumber(command.argument);
-    if (value && *value >= kLowestScale * 0.999 && *value <= kHighestScale * 1.001) channel.scale = *value;
+    if (value && *value >= LowestScale * 0.999 && *value <= HighestScale * 1.001) channel.scale = *value;
     return {};
 }
 
@@ -25,7 +25,7 @@ QByteArray offsetSetting(const ScpiCommand& command, ChannelState& channel)
     const double displayedScale = channel.scale * channel.probe;
     if (command.query) return sciReply(channel.position * displayedScale);
     const std::optional<double> value = parseNumber(command.argument);
-    if (value && std::fabs(*value / displayedScale) <= kPositionLimit)
+    if (value && std::fabs(*value / displayedScale) <= PositionLimit)
         channel.position = *value / displayedScale;
     return {};
 }

@@ -7,7 +7,7 @@ namespace {
 const struct {
     const char* shortForm;
     const char* longForm;
-} kShortForms[] = {
+} ShortForms[] = {
     {"TRIG", "TRIGGER"},
     {"PATT", "PATTERN"},
     {"CHAN", "CHANNEL"},
@@ -44,7 +44,7 @@ const struct {
 
 QByteArray expandShortForm(const QByteArray& stem)
 {
-    for (const auto& form : kShortForms) {
+    for (const auto& form : ShortForms) {
         if (stem == form.shortForm) return form.longForm;
     }
     return stem;

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr char kNoMeasurement[] = "9.9E+37\n";
+constexpr char NoMeasurement[] = "9.9E+37\n";
 
 QByteArray screenData(const QByteArray& source, SimContext& context)
 {
@@ -54,7 +54,7 @@ bool waveformCommand(const QByteArray& field, const ScpiCommand& command, SimCon
     else if (field == "SYSMEMSIZE")
         reply = command.query ? QByteArray::number(context.state.timebase.memorySize) + '\n' : QByteArray();
     else if (field == "WINMEMSIZE")
-        reply = command.query ? QByteArray::number(kScreenPointCount) + '\n' : QByteArray();
+        reply = command.query ? QByteArray::number(ScreenPointCount) + '\n' : QByteArray();
     else
         return field == "WINDOWZOOM" || field == "STARTOFROLL" || field == "ERASEOFROLL";
     return true;
@@ -68,7 +68,7 @@ QByteArray measureReply(const QByteArray& mnemonic, const ScpiCommand& command, 
     context.acquisition.catchUp(context.state);
     const MeasureSet values = measureChannel(context.state, context.acquisition.frame(), channel);
     const std::optional<double> value = values[int(*measure)];
-    return value ? sciReply(*value) : QByteArray(kNoMeasurement);
+    return value ? sciReply(*value) : QByteArray(NoMeasurement);
 }
 
 // :MEASURE:SOURCE starts a measuring pass, so its values share one frame.

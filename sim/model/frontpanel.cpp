@@ -11,16 +11,16 @@
 
 namespace {
 
-constexpr double kPositionStep = 0.04; // a twenty-fifth of a division
-constexpr double kPositionLimit = 10.0;
-constexpr double kLevelLimit = 6.0;
-constexpr int kLongestRepeat = 1000;
+constexpr double PositionStep = 0.04; // a twenty-fifth of a division
+constexpr double PositionLimit = 10.0;
+constexpr double LevelLimit = 6.0;
+constexpr int LongestRepeat = 1000;
 
 int stepCount(const ScpiCommand& command)
 {
     bool ok = false;
     const int count = command.argument.toInt(&ok);
-    return ok && count > 0 ? std::min(count, kLongestRepeat) : 1;
+    return ok && count > 0 ? std::min(count, LongestRepeat) : 1;
 }
 
 // +1 for "..._INC", -1 for "..._DEC", 0 otherwise.
@@ -52,9 +52,9 @@ bool channelKey(const QByteArray& key, const ScpiCommand& command, SimState& sta
         else
             voltsKnob(state, channel, steps);
     } else if (action.startsWith("_POS")) {
-        settings.position = steps == 0 ? 0.0
-                                       : std::clamp(settings.position + steps * kPositionStep,
-                                                    -kPositionLimit, kPositionLimit);
+        settings.position =
+            steps == 0 ? 0.0
+                       : std::clamp(settings.position + steps * PositionStep, -PositionLimit, PositionLimit);
     } else {
         return false;
     }
@@ -66,8 +66,8 @@ void channelOff(SimState& state)
 {
     PanelState& panel = state.panel;
     state.channels[panel.activeChannel].display = false;
-    for (int i = 1; i <= kChannels; ++i) {
-        const int next = (panel.activeChannel + i) % kChannels;
+    for (int i = 1; i <= Channels; ++i) {
+        const int next = (panel.activeChannel + i) % Channels;
         if (state.channels[next].display) {
             panel.activeChannel = next;
             return;
@@ -86,7 +86,7 @@ bool timeKey(const QByteArray& key, const ScpiCommand& command, SimState& state)
     const int steps = direction(key) * stepCount(command);
     if (key == "TIME_INC" || key == "TIME_DEC") {
         const double longest =
-            state.timebase.format == TimeFormat::YT ? kLongestYtTimeScale : kLongestTimeScale;
+            state.timebase.format == TimeFormat::YT ? LongestYtTimeScale : LongestTimeScale;
         window.scale = std::min(timeScaleStep(window.scale, steps), longest);
     } else if (key == "TIME_POS_INC" || key == "TIME_POS_DEC") {
         window.offset += steps * window.scale / 25;
@@ -104,9 +104,9 @@ void levelKnob(SimState& state, int steps)
     double* level = activeLevel(state, source);
     const double scale = sourceScale(state, source);
     if (!level || scale == 0.0) return;
-    const double position = int(source) < kChannels ? state.channels[int(source)].position : 0.0;
+    const double position = int(source) < Channels ? state.channels[int(source)].position : 0.0;
     const double divisions =
-        std::clamp(*level / scale + position + steps * kPositionStep, -kLevelLimit, kLevelLimit);
+        std::clamp(*level / scale + position + steps * PositionStep, -LevelLimit, LevelLimit);
     *level = (divisions - position) * scale;
 }
 

@@ -11,9 +11,9 @@ namespace {
 
 using CommandFamily = bool (*)(const ScpiCommand&, SimContext&, QByteArray&);
 
-const CommandFamily kFamilies[] = {channelCommand, timebaseCommand, acquireDisplayCommand,
-                                   triggerCommand, dataCommand,     runCommand,
-                                   keyCommand};
+const CommandFamily Families[] = {channelCommand, timebaseCommand, acquireDisplayCommand,
+                                  triggerCommand, dataCommand,     runCommand,
+                                  keyCommand};
 
 } // namespace
 
@@ -42,7 +42,7 @@ QByteArray Instrument::handle(const QByteArray& line)
         return handleCommon(command->path[0], command->query);
     SimContext context{state_, acquisition_};
     QByteArray reply;
-    for (CommandFamily family : kFamilies) {
+    for (CommandFamily family : Families) {
         if (family(*command, context, reply)) break;
     }
     return reply;
@@ -70,7 +70,7 @@ QByteArray Instrument::recordCodes(int channel, int count) const
 
 double Instrument::sampleRate(int channel) const
 {
-    return ::sampleRate(state_, std::clamp(channel - 1, 0, kChannels - 1));
+    return ::sampleRate(state_, std::clamp(channel - 1, 0, Channels - 1));
 }
 
 QByteArray Instrument::parameterBytes() const

@@ -224,14 +224,14 @@ namespace {
 const struct {
     double ratio;
     const char* text;
-} kProbes[] = {{0.001, "0.001X"}, {0.01, "0.01X"}, {0.1, "0.1X"},  {1, "1X"},   {2, "2X"},
-               {5, "5X"},         {10, "10X"},     {20, "20X"},    {50, "50X"}, {100, "100X"},
-               {200, "200X"},     {500, "500X"},   {1000, "1000X"}};
+} Probes[] = {{0.001, "0.001X"}, {0.01, "0.01X"}, {0.1, "0.1X"},  {1, "1X"},   {2, "2X"},
+              {5, "5X"},         {10, "10X"},     {20, "20X"},    {50, "50X"}, {100, "100X"},
+              {200, "200X"},     {500, "500X"},   {1000, "1000X"}};
 } // namespace
 
 std::optional<double> probeRatio(const QByteArray& upperText)
 {
-    for (const auto& probe : kProbes) {
+    for (const auto& probe : Probes) {
         if (upperText == probe.text || upperText + 'X' == probe.text) return probe.ratio;
     }
     return std::nullopt;
@@ -239,7 +239,7 @@ std::optional<double> probeRatio(const QByteArray& upperText)
 
 QByteArray probeText(double ratio)
 {
-    for (const auto& probe : kProbes) {
+    for (const auto& probe : Probes) {
         if (std::fabs(probe.ratio - ratio) <= probe.ratio * 1e-6) return probe.text;
     }
     return "1X";

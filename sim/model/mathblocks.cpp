@@ -27,7 +27,7 @@ double combine(MathOperation operation, double a, double b)
 
 double windowWeight(FftWindow window, int i)
 {
-    const double x = 2 * std::numbers::pi * i / (kFftLength - 1);
+    const double x = 2 * std::numbers::pi * i / (FftLength - 1);
     switch (window) {
     case FftWindow::Hanning: return 0.5 - 0.5 * std::cos(x);
     case FftWindow::Hamming: return 0.54 - 0.46 * std::cos(x);
@@ -96,8 +96,8 @@ QByteArray mathScreenCodes(const SimState& state, const Frame& frame)
     const double scale = mathScale(state);
     const MathOperation operation =
         state.math.operation == MathOperation::Fft ? state.math.lastArithmetic : state.math.operation;
-    QByteArray codes(kScreenPointCount, '\0');
-    for (int i = 0; i < kScreenPointCount; ++i) {
+    QByteArray codes(ScreenPointCount, '\0');
+    for (int i = 0; i < ScreenPointCount; ++i) {
         const double t = pointTime(state, frame, 0, i);
         const double volts = combine(operation, displayedVolts(state, 0, t), displayedVolts(state, 1, t));
         codes[i] = char(std::lround(std::clamp(100 - volts * 25 / scale, 0.0, 255.0)));
@@ -108,7 +108,7 @@ QByteArray mathScreenCodes(const SimState& state, const Frame& frame)
 double fftBinWidth(const SimState& state)
 {
     const double step = state.timebase.main.scale / 50;
-    return 1.0 / (step * kFftLength);
+    return 1.0 / (step * FftLength);
 }
 
 double fftHorizontalScale(const SimState& state)
@@ -119,17 +119,17 @@ double fftHorizontalScale(const SimState& state)
 QVector<double> fftSpectrum(const SimState& state, const Frame& frame)
 {
     const int channel = fftSourceChannel(state);
-    std::vector<std::complex<double>> data(kFftLength);
+    std::vector<std::complex<double>> data(FftLength);
     double weightSum = 0;
-    for (int i = 0; i < kFftLength; ++i) {
+    for (int i = 0; i < FftLength; ++i) {
         const double weight = windowWeight(state.fft.window, i);
-        const double t = pointTime(state, frame, channel, i - kFftLength / 2 + kScreenPointCount / 2);
+        const double t = pointTime(state, frame, channel, i - FftLength / 2 + ScreenPointCount / 2);
         data[i] = weight * displayedVolts(state, channel, t);
         weightSum += weight;
     }
     transform(data);
-    QVector<double> spectrum(kFftBins);
-    for (int k = 0; k < kFftBins; ++k) {
+    QVector<double> spectrum(FftBins);
+    for (int k = 0; k < FftBins; ++k) {
         const double amplitude = std::abs(data[k]) / weightSum;
         spectrum[k] = k == 0 ? amplitude : 2 * amplitude / std::numbers::sqrt2;
     }
@@ -139,8 +139,8 @@ QVector<double> fftSpectrum(const SimState& state, const Frame& frame)
 QByteArray fftScreenCodes(const SimState& state, const Frame& frame)
 {
     const QVector<double> spectrum = fftSpectrum(state, frame);
-    QByteArray codes(kFftBins, '\0');
-    for (int k = 0; k < kFftBins; ++k)
+    QByteArray codes(FftBins, '\0');
+    for (int k = 0; k < FftBins; ++k)
         codes[k] = char(fftRow(state.fft, spectrum[k]));
     return codes;
 }

@@ -8,8 +8,8 @@
 #include <QByteArray>
 #include <QVector>
 
-constexpr int kFftLength = 2048;
-constexpr int kFftBins = kFftLength / 2;
+constexpr int FftLength = 2048;
+constexpr int FftBins = FftLength / 2;
 
 // Displayed volts a division of the math trace (volts squared for a product):
 // the larger of the two channel scales for a sum or difference, their
@@ -24,7 +24,7 @@ QByteArray mathScreenCodes(const SimState& state, const Frame& frame);
 // Hz between two spectrum lines, and Hz a division of the FFT display.
 double fftBinWidth(const SimState& state);
 double fftHorizontalScale(const SimState& state);
-// Vrms of each of the kFftBins lines of the FFT source over the frame.
+// Vrms of each of the FftBins lines of the FFT source over the frame.
 QVector<double> fftSpectrum(const SimState& state, const Frame& frame);
-// kFftBins codes: 0..199 on a full screen, 0..99 in the lower half of a split one.
+// FftBins codes: 0..199 on a full screen, 0..99 in the lower half of a split one.
 QByteArray fftScreenCodes(const SimState& state, const Frame& frame);

@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr int kSamplesPerPoint = 5;
-constexpr int kHistogramBins = 200;
-constexpr double kPlateauShare = 0.05; // a level held this long is a top or a base
+constexpr int SamplesPerPoint = 5;
+constexpr int HistogramBins = 200;
+constexpr double PlateauShare = 0.05; // a level held this long is a top or a base
 
 struct Trace {
     QVector<double> t;
@@ -22,12 +22,12 @@ struct Trace {
 Trace displayedTrace(const SimState& state, const Frame& frame, int channel)
 {
     Trace trace;
-    const int count = kScreenPointCount * kSamplesPerPoint;
+    const int count = ScreenPointCount * SamplesPerPoint;
     const double probe = state.channels[channel].probe;
     trace.t.resize(count);
     trace.v.resize(count);
     for (int i = 0; i < count; ++i) {
-        trace.t[i] = pointTime(state, frame, channel, double(i) / kSamplesPerPoint);
+        trace.t[i] = pointTime(state, frame, channel, double(i) / SamplesPerPoint);
         trace.v[i] = sampledVolts(state, channel, trace.t[i]) * probe;
     }
     return trace;
@@ -37,13 +37,13 @@ Trace displayedTrace(const SimState& state, const Frame& frame, int channel)
 // enough; the extreme otherwise.
 double plateau(const QVector<double>& values, double low, double high, bool upper)
 {
-    const double width = (high - low) / kHistogramBins;
-    QVector<int> counts(kHistogramBins, 0);
+    const double width = (high - low) / HistogramBins;
+    QVector<int> counts(HistogramBins, 0);
     for (double v : values)
-        ++counts[std::clamp(int((v - low) / width), 0, kHistogramBins - 1)];
-    const int first = upper ? kHistogramBins / 2 : 0;
-    const auto best = std::max_element(counts.begin() + first, counts.begin() + first + kHistogramBins / 2);
-    if (*best < kPlateauShare * values.size()) return upper ? high : low;
+        ++counts[std::clamp(int((v - low) / width), 0, HistogramBins - 1)];
+    const int first = upper ? HistogramBins / 2 : 0;
+    const auto best = std::max_element(counts.begin() + first, counts.begin() + first + HistogramBins / 2);
+    if (*best < PlateauShare * values.size()) return upper ? high : low;
     const double binLow = low + (best - counts.begin()) * width;
     double sum = 0;
     int n = 0;
@@ -169,11 +169,11 @@ void measureTimes(MeasureSet& m, const Trace& trace, double top, double base)
 
 std::optional<Measure> measureByMnemonic(const QByteArray& upperMnemonic)
 {
-    static const char* const names[kMeasureCount] = {
+    static const char* const names[MeasureCount] = {
         "VPP",      "VAMPLITUDE", "VMAX",      "VMIN",     "VTOP",       "VBASE",
         "VAVERAGE", "VRMS",       "OVERSHOOT", "PRESHOOT", "FREQUENCY",  "PERIOD",
         "RISETIME", "FALLTIME",   "PWIDTH",    "NWIDTH",   "PDUTYCYCLE", "NDUTYCYCLE"};
-    for (int i = 0; i < kMeasureCount; ++i) {
+    for (int i = 0; i < MeasureCount; ++i) {
         if (upperMnemonic == names[i]) return Measure(i);
     }
     return std::nullopt;
@@ -182,7 +182,7 @@ std::optional<Measure> measureByMnemonic(const QByteArray& upperMnemonic)
 MeasureSet measureChannel(const SimState& state, const Frame& frame, int channel)
 {
     MeasureSet m;
-    if (channel < 0 || channel >= kChannels || !frame.captured[channel]) return m;
+    if (channel < 0 || channel >= Channels || !frame.captured[channel]) return m;
     const Trace trace = displayedTrace(state, frame, channel);
     const auto [low, high] = std::minmax_element(trace.v.begin(), trace.v.end());
     // A trace within a few codes of flat has levels but no edges.

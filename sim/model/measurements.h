@@ -30,9 +30,9 @@ enum class Measure {
     PDutyCycle, // percent, 50 for half
     NDutyCycle, // percent
 };
-constexpr int kMeasureCount = 18;
+constexpr int MeasureCount = 18;
 
-using MeasureSet = std::array<std::optional<double>, kMeasureCount>;
+using MeasureSet = std::array<std::optional<double>, MeasureCount>;
 
 // The query mnemonic ("VPP", "PDUTYCYCLE") of a measurement.
 std::optional<Measure> measureByMnemonic(const QByteArray& upperMnemonic);

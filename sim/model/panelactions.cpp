@@ -8,15 +8,15 @@
 
 namespace {
 
-constexpr int kSwingSamples = 200;
-constexpr double kSlotUse = 0.8; // share of its slot a signal may fill after auto set
+constexpr int SwingSamples = 200;
+constexpr double SlotUse = 0.8; // share of its slot a signal may fill after auto set
 
 std::pair<double, double> swing(const ChannelState& channel, int index)
 {
     double low = 1e300, high = -1e300;
     const double period = signalPeriod(index);
-    for (int i = 0; i < kSwingSamples; ++i) {
-        const double volts = coupledVolts(channel, index, period * i / kSwingSamples);
+    for (int i = 0; i < SwingSamples; ++i) {
+        const double volts = coupledVolts(channel, index, period * i / SwingSamples);
         low = std::min(low, volts);
         high = std::max(high, volts);
     }
@@ -26,20 +26,20 @@ std::pair<double, double> swing(const ChannelState& channel, int index)
 double middleOf(const SimState& state, TriggerSource source)
 {
     const int index = int(source);
-    if (index >= kChannels) return 0.0;
+    if (index >= Channels) return 0.0;
     const auto [low, high] = swing(state.channels[index], index);
     return (low + high) / 2;
 }
 
 void spreadChannels(SimState& state)
 {
-    const double slot = 8.0 / kChannels;
-    for (int index = 0; index < kChannels; ++index) {
+    const double slot = 8.0 / Channels;
+    for (int index = 0; index < Channels; ++index) {
         ChannelState& channel = state.channels[index];
         channel.display = true;
         channel.coupling = ChannelCoupling::DC;
         const auto [low, high] = swing(channel, index);
-        channel.scale = coarseVoltStep((high - low) / (slot * kSlotUse) * 0.999, 1);
+        channel.scale = coarseVoltStep((high - low) / (slot * SlotUse) * 0.999, 1);
         channel.position = 4 - slot * (index + 0.5) - (high + low) / 2 / channel.scale;
     }
 }

@@ -9,7 +9,7 @@ namespace {
 
 class BlockWriter {
   public:
-    BlockWriter() : bytes_(kParameterBlockSize, '\0') {}
+    BlockWriter() : bytes_(ParameterBlockSize, '\0') {}
 
     void s8(int offset, int value) { bytes_[offset] = char(qint8(value)); }
     void s16(int offset, int value) { qToLittleEndian<qint16>(qint16(value), bytes_.data() + offset); }
@@ -26,17 +26,17 @@ class BlockWriter {
     QByteArray bytes_;
 };
 
-constexpr int kLastPosition = 299;
+constexpr int LastPosition = 299;
 
 void writePositions(BlockWriter& out, const SimState& state, const Frame& frame)
 {
     using namespace ParameterOffset;
     const int start = state.timebase.format == TimeFormat::Roll ? 300 - frame.rollFill : 0;
     out.s16(ScrStartPos, start);
-    out.s16(ScrEndPos, kLastPosition);
+    out.s16(ScrEndPos, LastPosition);
     if (state.trigger.mode == TriggerType::Alternation) {
-        out.s16(ScrEndPosA, kLastPosition);
-        out.s16(ScrEndPosB, kLastPosition);
+        out.s16(ScrEndPosA, LastPosition);
+        out.s16(ScrEndPosB, LastPosition);
     }
     out.s8(TimeRolling, state.timebase.format == TimeFormat::Roll ? 1 : 0);
 }
@@ -44,7 +44,7 @@ void writePositions(BlockWriter& out, const SimState& state, const Frame& frame)
 void writeChannels(BlockWriter& out, const SimState& state, const Frame& frame)
 {
     int peakBits = 0;
-    for (int channel = 0; channel < kChannels; ++channel) {
+    for (int channel = 0; channel < Channels; ++channel) {
         out.s8(ParameterOffset::ChannelEnabledStop + channel, frame.captured[channel] ? 1 : 0);
         if (frame.captured[channel] && state.acquire.type == AcquireType::PeakDetect)
             peakBits |= 1 << channel;

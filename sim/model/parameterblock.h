@@ -7,7 +7,7 @@
 
 #include <QByteArray>
 
-constexpr int kParameterBlockSize = 80;
+constexpr int ParameterBlockSize = 80;
 
 namespace ParameterOffset {
 constexpr int ScrStartPos = 0, ScrEndPos = 2, ScrStartPosA = 4, ScrEndPosA = 6, ScrStartPosB = 8,

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kAllInputs = (1 << kPatternInputs) - 1;
+constexpr int AllInputs = (1 << PatternInputs) - 1;
 
 std::optional<int> integerField(const QByteArray& text, int low, int high)
 {
@@ -21,10 +21,10 @@ void setPattern(const ScpiCommand& command, PatternTrigger& pattern)
 {
     const QList<QByteArray> fields = command.fields();
     if (fields.size() != 3 && fields.size() != 5) return;
-    const std::optional<int> value = integerField(fields[0], 0, kAllInputs);
-    const std::optional<int> mask = integerField(fields[1], 0, kAllInputs);
+    const std::optional<int> value = integerField(fields[0], 0, AllInputs);
+    const std::optional<int> mask = integerField(fields[1], 0, AllInputs);
     const std::optional<int> ext = integerField(fields[2], 0, 1);
-    const std::optional<int> edge = fields.size() == 5 ? integerField(fields[3], 0, kPatternInputs - 1) : -1;
+    const std::optional<int> edge = fields.size() == 5 ? integerField(fields[3], 0, PatternInputs - 1) : -1;
     const std::optional<int> rising = fields.size() == 5 ? integerField(fields[4], 0, 1) : 1;
     if (!value || !mask || !ext || !edge || !rising) return;
     pattern.value = *value & *mask;
@@ -36,9 +36,9 @@ void setPattern(const ScpiCommand& command, PatternTrigger& pattern)
 
 QByteArray patternReply(const PatternTrigger& pattern)
 {
-    const QByteArray edge = pattern.edgeInput < 0                     ? QByteArray("NONE")
-                            : pattern.edgeInput == kPatternInputs - 1 ? QByteArray("EXT")
-                                                                      : QByteArray::number(pattern.edgeInput);
+    const QByteArray edge = pattern.edgeInput < 0                    ? QByteArray("NONE")
+                            : pattern.edgeInput == PatternInputs - 1 ? QByteArray("EXT")
+                                                                     : QByteArray::number(pattern.edgeInput);
     return QByteArray::number(pattern.value) + ',' + QByteArray::number(pattern.mask) + ',' +
            (pattern.extDiv5 ? "EXT5" : "EXT") + ',' + edge + ',' +
            (pattern.edgeRising ? "POSITIVE" : "NEGATIVE") + '\n';
@@ -47,13 +47,13 @@ QByteArray patternReply(const PatternTrigger& pattern)
 // Input 0..3 for the channels, 4 for the external input.
 std::optional<int> patternInput(const QByteArray& word)
 {
-    if (word == "EXT" || word == "EXT5") return kPatternInputs - 1;
+    if (word == "EXT" || word == "EXT5") return PatternInputs - 1;
     return channelWord(word);
 }
 
 TriggerSource inputSource(const PatternTrigger& pattern, int input)
 {
-    if (input < kChannels) return TriggerSource(input);
+    if (input < Channels) return TriggerSource(input);
     return pattern.extDiv5 ? TriggerSource::Ext5 : TriggerSource::Ext;
 }
 

@@ -6,19 +6,19 @@
 
 namespace {
 
-const SignalSource kSources[kChannels] = {
+const SignalSource Sources[Channels] = {
     {WaveShape::Sine, 1000.0, -1.5, 1.5, 0.5, 0.0},
     {WaveShape::Square, 2000.0, -1.0, 1.0, 0.5, 4e-6},
     {WaveShape::Triangle, 500.0, -1.0, 1.0, 0.5, 0.0},
     {WaveShape::Pulse, 5000.0, 0.0, 2.5, 0.2, 1e-6},
 };
 
-constexpr double kNoisePeak = 0.002;            // volts at the input
-constexpr double kBandwidthLimitRise = 17.5e-9; // 0.35 / 20 MHz
+constexpr double NoisePeak = 0.002;            // volts at the input
+constexpr double BandwidthLimitRise = 17.5e-9; // 0.35 / 20 MHz
 
 int clampChannel(int channel)
 {
-    return channel < 0 ? 0 : channel >= kChannels ? kChannels - 1 : channel;
+    return channel < 0 ? 0 : channel >= Channels ? Channels - 1 : channel;
 }
 
 double phaseOf(double t, double frequency)
@@ -70,7 +70,7 @@ double noiseAt(int channel, double t)
 
 const SignalSource& signalSource(int channel)
 {
-    return kSources[clampChannel(channel)];
+    return Sources[clampChannel(channel)];
 }
 
 double signalPeriod(int channel)
@@ -96,7 +96,7 @@ double coupledVolts(const ChannelState& channel, int index, double t)
 {
     if (channel.coupling == ChannelCoupling::GND) return 0.0;
     const SignalSource& source = signalSource(index);
-    const double edge = channel.bwLimit ? std::hypot(source.edge, kBandwidthLimitRise) : source.edge;
+    const double edge = channel.bwLimit ? std::hypot(source.edge, BandwidthLimitRise) : source.edge;
     const double volts = shapeVolts(source, t, edge);
     return channel.coupling == ChannelCoupling::AC ? volts - generatorMean(index) : volts;
 }
@@ -104,7 +104,7 @@ double coupledVolts(const ChannelState& channel, int index, double t)
 double sampledVolts(const SimState& state, int index, double t)
 {
     const ChannelState& channel = state.channels[clampChannel(index)];
-    double noise = kNoisePeak * noiseAt(index, t);
+    double noise = NoisePeak * noiseAt(index, t);
     if (state.acquire.type == AcquireType::Average) noise /= std::sqrt(double(state.acquire.averages));
     const double volts = coupledVolts(channel, index, t) + noise;
     return channel.invert ? -volts : volts;

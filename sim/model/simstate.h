@@ -25,8 +25,8 @@ enum class GridType { Full, Half, None };
 enum class MathOperation { Add = 0, Subtract = 1, Multiply = 2, Fft = 3 };
 enum class FftWindow { Rectangle, Hanning, Hamming, Blackman };
 
-constexpr int kChannels = 4;
-constexpr int kPatternInputs = 5; // CH1 to CH4, then the external input
+constexpr int Channels = 4;
+constexpr int PatternInputs = 5; // CH1 to CH4, then the external input
 
 struct ChannelState {
     bool display = false;
@@ -92,7 +92,7 @@ struct PatternTrigger {
     bool extDiv5 = false;
     int edgeInput = -1; // -1: no edge term
     bool edgeRising = true;
-    std::array<double, kPatternInputs> levels{};
+    std::array<double, PatternInputs> levels{};
     Sweep sweep = Sweep::Auto;
 };
 
@@ -178,12 +178,12 @@ struct FftState {
 
 // What the front panel remembers between presses.
 struct PanelState {
-    int activeChannel = 0;                   // the channel the vertical menu and the off key act on
-    std::array<bool, kChannels> fineVolts{}; // the volts knob moves in fine steps
+    int activeChannel = 0;                  // the channel the vertical menu and the off key act on
+    std::array<bool, Channels> fineVolts{}; // the volts knob moves in fine steps
 };
 
 struct SimState {
-    std::array<ChannelState, kChannels> channels{};
+    std::array<ChannelState, Channels> channels{};
     TimebaseState timebase;
     TriggerState trigger;
     AcquireState acquire;

@@ -7,7 +7,7 @@
 #include <cmath>
 
 namespace {
-constexpr double kDelayDivisions = 500.0; // the furthest delay, in divisions either way
+constexpr double DelayDivisions = 500.0; // the furthest delay, in divisions either way
 } // namespace
 
 QByteArray timeScaleSetting(const ScpiCommand& command, const SimState& state, TimeWindow& window)
@@ -15,7 +15,7 @@ QByteArray timeScaleSetting(const ScpiCommand& command, const SimState& state, T
     if (command.query) return sciReply(window.scale);
     const std::optional<double> value = parseNumber(command.argument.split(',').value(0));
     const std::optional<double> snapped = value ? snapTimeScale(*value) : std::nullopt;
-    const double longest = state.timebase.format == TimeFormat::YT ? kLongestYtTimeScale : kLongestTimeScale;
+    const double longest = state.timebase.format == TimeFormat::YT ? LongestYtTimeScale : LongestTimeScale;
     if (snapped && *snapped <= longest * 1.001) window.scale = *snapped;
     return {};
 }
@@ -24,7 +24,7 @@ QByteArray timeOffsetSetting(const ScpiCommand& command, TimeWindow& window)
 {
     if (command.query) return sciReply(window.offset);
     const std::optional<double> value = parseNumber(command.argument.split(',').value(0));
-    if (value && std::fabs(*value) <= kDelayDivisions * window.scale) window.offset = *value;
+    if (value && std::fabs(*value) <= DelayDivisions * window.scale) window.offset = *value;
     return {};
 }
 
@@ -34,11 +34,11 @@ void applyFormat(SimState& state, TimeFormat format)
 {
     state.timebase.format = format;
     if (format == TimeFormat::YT)
-        state.timebase.main.scale = std::min(state.timebase.main.scale, kLongestYtTimeScale);
+        state.timebase.main.scale = std::min(state.timebase.main.scale, LongestYtTimeScale);
     if (format != TimeFormat::YT && state.trigger.mode == TriggerType::Alternation)
         state.trigger.mode = TriggerType::Edge; // two time bases need Y-T
     if (format == TimeFormat::XY) {
-        for (int channel = 0; channel < kChannels; ++channel)
+        for (int channel = 0; channel < Channels; ++channel)
             state.channels[channel].display = channel < 2;
     }
 }

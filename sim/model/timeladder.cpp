@@ -19,7 +19,7 @@ QVector<double> ladder(double first, double last)
 
 const QVector<double>& timeLadder()
 {
-    static const QVector<double> values = ladder(kShortestTimeScale, kLongestTimeScale);
+    static const QVector<double> values = ladder(ShortestTimeScale, LongestTimeScale);
     return values;
 }
 

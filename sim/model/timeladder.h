@@ -11,6 +11,6 @@ std::optional<double> snapTimeScale(double requested);
 double coarseVoltStep(double scale, int steps);
 double fineVoltStep(double scale, int steps);
 
-constexpr double kShortestTimeScale = 1e-9;
-constexpr double kLongestTimeScale = 50.0;
-constexpr double kLongestYtTimeScale = 20.0;
+constexpr double ShortestTimeScale = 1e-9;
+constexpr double LongestTimeScale = 50.0;
+constexpr double LongestYtTimeScale = 20.0;

@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr double kLinePeriod = 0.02; // the mains: 50 Hz
-constexpr int kScanSteps = 400;
-constexpr int kPulseTries = 64;
+constexpr double LinePeriod = 0.02; // the mains: 50 Hz
+constexpr int ScanSteps = 400;
+constexpr int PulseTries = 64;
 
 enum class Direction { Rising, Falling, Either };
 
@@ -106,10 +106,10 @@ bool crosses(double before, double after, Direction direction)
 std::optional<double> nextCrossing(const SimState& state, int channel, double level, Direction direction,
                                    double from, double span)
 {
-    const double step = span / kScanSteps;
+    const double step = span / ScanSteps;
     double t0 = from;
     double v0 = triggerVolts(state, channel, t0) - level;
-    for (int i = 1; i <= kScanSteps; ++i) {
+    for (int i = 1; i <= ScanSteps; ++i) {
         const double t1 = from + i * step;
         const double v1 = triggerVolts(state, channel, t1) - level;
         if (crosses(v0, v1, direction)) {
@@ -147,7 +147,7 @@ std::optional<double> nextPulse(const SimState& state, int channel, const Condit
     const Direction start = isPositive(condition.mode) ? Direction::Rising : Direction::Falling;
     const Direction end = start == Direction::Rising ? Direction::Falling : Direction::Rising;
     double t = from;
-    for (int i = 0; i < kPulseTries; ++i) {
+    for (int i = 0; i < PulseTries; ++i) {
         const std::optional<double> begin =
             nextCrossing(state, channel, condition.level, start, t, 2 * period);
         if (!begin) return std::nullopt;
@@ -215,7 +215,7 @@ std::optional<double> findTrigger(const SimState& state, int timeBase, double fr
     if (condition.freeRun) return from;
     if (condition.never || condition.source == TriggerSource::Ext || condition.source == TriggerSource::Ext5)
         return std::nullopt;
-    if (condition.source == TriggerSource::AcLine) return std::ceil(from / kLinePeriod) * kLinePeriod;
+    if (condition.source == TriggerSource::AcLine) return std::ceil(from / LinePeriod) * LinePeriod;
     const int channel = int(condition.source);
     if (condition.pulse) return nextPulse(state, channel, condition, from);
     return nextCrossing(state, channel, condition.level, condition.direction, from,

@@ -9,14 +9,14 @@
 
 namespace {
 
-constexpr double kLevelDivisions = 6.0; // how far from the centre a level may lie
-constexpr double kShortestHoldoff = 100e-9;
-constexpr double kLongestHoldoff = 1.5;
+constexpr double LevelDivisions = 6.0; // how far from the centre a level may lie
+constexpr double ShortestHoldoff = 100e-9;
+constexpr double LongestHoldoff = 1.5;
 
 double displayFactor(const SimState& state, TriggerSource source)
 {
     const int index = int(source);
-    return index < kChannels ? state.channels[index].probe : 1.0;
+    return index < Channels ? state.channels[index].probe : 1.0;
 }
 
 // Where a level lies on the screen, in divisions from the centre line.
@@ -25,7 +25,7 @@ double levelDivisions(const SimState& state, TriggerSource source, double inputV
     const double scale = sourceScale(state, source);
     if (scale == 0.0) return 0.0;
     const int index = int(source);
-    const double position = index < kChannels ? state.channels[index].position : 0.0;
+    const double position = index < Channels ? state.channels[index].position : 0.0;
     return inputVolts / scale + position;
 }
 
@@ -42,19 +42,19 @@ QByteArray levelSetting(const ScpiCommand& command, const SimState& state, Trigg
     const double factor = displayFactor(state, source);
     if (command.query) return sciReply(level * factor);
     const std::optional<double> value = parseNumber(command.argument);
-    if (value && std::fabs(levelDivisions(state, source, *value / factor)) <= kLevelDivisions + 1e-9)
+    if (value && std::fabs(levelDivisions(state, source, *value / factor)) <= LevelDivisions + 1e-9)
         level = source == TriggerSource::AcLine ? 0.0 : *value / factor;
     return {};
 }
 
 QByteArray conditionTimeSetting(const ScpiCommand& command, double& time)
 {
-    return numberSetting(command, time, kShortestTime * 0.999, kLongestTime * 1.001);
+    return numberSetting(command, time, ShortestTime * 0.999, LongestTime * 1.001);
 }
 
 QByteArray holdoffSetting(const ScpiCommand& command, double& holdoff)
 {
-    return numberSetting(command, holdoff, kShortestHoldoff * 0.999, kLongestHoldoff * 1.001);
+    return numberSetting(command, holdoff, ShortestHoldoff * 0.999, LongestHoldoff * 1.001);
 }
 
 QByteArray sensitivitySetting(const ScpiCommand& command, double& sensitivity)

@@ -6,8 +6,8 @@
 
 #include <QByteArray>
 
-constexpr double kShortestTime = 20e-9; // pulse widths, slope and duration times
-constexpr double kLongestTime = 10.0;
+constexpr double ShortestTime = 20e-9; // pulse widths, slope and duration times
+constexpr double LongestTime = 10.0;
 
 // A level in displayed volts on the wire, kept in volts at the source's input.
 QByteArray levelSetting(const ScpiCommand& command, const SimState& state, TriggerSource source,

@@ -35,7 +35,7 @@ int distance(QRgb a, QRgb b)
 
 bool inside(int x, int y)
 {
-    return x >= 0 && x < kScreenWidth && y >= 0 && y < kScreenHeight;
+    return x >= 0 && x < ScreenWidth && y >= 0 && y < ScreenHeight;
 }
 
 } // namespace
@@ -60,22 +60,22 @@ std::uint8_t paletteIndex(QRgb colour)
     return static_cast<std::uint8_t>(best);
 }
 
-ScreenCanvas::ScreenCanvas() : pixels_(kScreenWidth * kScreenHeight, '\0') {}
+ScreenCanvas::ScreenCanvas() : pixels_(ScreenWidth * ScreenHeight, '\0') {}
 
 void ScreenCanvas::setPixel(int x, int y, std::uint8_t colour)
 {
-    if (inside(x, y)) pixels_[y * kScreenWidth + x] = static_cast<char>(colour);
+    if (inside(x, y)) pixels_[y * ScreenWidth + x] = static_cast<char>(colour);
 }
 
 void ScreenCanvas::horizontalLine(int x0, int x1, int y, std::uint8_t colour)
 {
-    for (int x = std::max(std::min(x0, x1), 0); x <= std::min(std::max(x0, x1), kScreenWidth - 1); ++x)
+    for (int x = std::max(std::min(x0, x1), 0); x <= std::min(std::max(x0, x1), ScreenWidth - 1); ++x)
         setPixel(x, y, colour);
 }
 
 void ScreenCanvas::verticalLine(int x, int y0, int y1, std::uint8_t colour)
 {
-    for (int y = std::max(std::min(y0, y1), 0); y <= std::min(std::max(y0, y1), kScreenHeight - 1); ++y)
+    for (int y = std::max(std::min(y0, y1), 0); y <= std::min(std::max(y0, y1), ScreenHeight - 1); ++y)
         setPixel(x, y, colour);
 }
 
@@ -83,20 +83,20 @@ int ScreenCanvas::text(int x, int y, const QString& text, std::uint8_t colour)
 {
     for (QChar c : text) {
         const GlyphRows& rows = glyphRows(c);
-        for (int row = 0; row < kGlyphHeight; ++row)
-            for (int column = 0; column < kGlyphWidth; ++column)
+        for (int row = 0; row < GlyphHeight; ++row)
+            for (int column = 0; column < GlyphWidth; ++column)
                 if (rows[row] & (0x10 >> column)) setPixel(x + column, y + row, colour);
-        x += kGlyphPitch;
+        x += GlyphPitch;
     }
     return x;
 }
 
 std::uint8_t ScreenCanvas::pixel(int x, int y) const
 {
-    return inside(x, y) ? static_cast<std::uint8_t>(pixels_[y * kScreenWidth + x]) : 0;
+    return inside(x, y) ? static_cast<std::uint8_t>(pixels_[y * ScreenWidth + x]) : 0;
 }
 
 int textWidth(const QString& text)
 {
-    return static_cast<int>(text.size()) * kGlyphPitch;
+    return static_cast<int>(text.size()) * GlyphPitch;
 }

@@ -7,9 +7,9 @@
 #include <cmath>
 
 namespace {
-constexpr int kPeakSubsamples = 8;
-constexpr double kRealTimeRate = 1e9;
-constexpr double kEquivalentTimeRate = 25e9;
+constexpr int PeakSubsamples = 8;
+constexpr double RealTimeRate = 1e9;
+constexpr double EquivalentTimeRate = 25e9;
 } // namespace
 
 double pointTime(const SimState& state, const Frame& frame, int channel, double point)
@@ -18,14 +18,14 @@ double pointTime(const SimState& state, const Frame& frame, int channel, double 
     const TimeWindow& window = timeWindowOf(state, timeBase);
     const double step = window.scale / 50;
     if (state.timebase.format == TimeFormat::Roll)
-        return frame.start[0] + (point - (kScreenPointCount - 1)) * step;
-    return frame.start[timeBase] + window.offset + (point - kScreenPointCount / 2) * step;
+        return frame.start[0] + (point - (ScreenPointCount - 1)) * step;
+    return frame.start[timeBase] + window.offset + (point - ScreenPointCount / 2) * step;
 }
 
 double sampleRate(const SimState& state, int channel)
 {
     const double screenTime = 12 * timeWindowOf(state, timeBaseOfChannel(state, channel)).scale;
-    const double limit = state.acquire.equivalentTime ? kEquivalentTimeRate : kRealTimeRate;
+    const double limit = state.acquire.equivalentTime ? EquivalentTimeRate : RealTimeRate;
     return std::min(limit, state.timebase.memorySize / screenTime);
 }
 
@@ -41,8 +41,8 @@ namespace {
 std::pair<double, double> pointRange(const SimState& state, const Frame& frame, int channel, int point)
 {
     double low = 1e300, high = -1e300;
-    for (int k = 0; k < kPeakSubsamples; ++k) {
-        const double t = pointTime(state, frame, channel, point - 0.5 + (k + 0.5) / kPeakSubsamples);
+    for (int k = 0; k < PeakSubsamples; ++k) {
+        const double t = pointTime(state, frame, channel, point - 0.5 + (k + 0.5) / PeakSubsamples);
         const double volts = sampledVolts(state, channel, t);
         low = std::min(low, volts);
         high = std::max(high, volts);
@@ -53,11 +53,11 @@ std::pair<double, double> pointRange(const SimState& state, const Frame& frame, 
 QByteArray peakCodes(const SimState& state, const Frame& frame, int channel)
 {
     const ChannelState& settings = state.channels[channel];
-    QByteArray codes(2 * kScreenPointCount, '\0');
-    for (int i = 0; i < kScreenPointCount; ++i) {
+    QByteArray codes(2 * ScreenPointCount, '\0');
+    for (int i = 0; i < ScreenPointCount; ++i) {
         const auto [low, high] = pointRange(state, frame, channel, i);
         codes[i] = char(channelCode(settings, low));
-        codes[i + kScreenPointCount] = char(channelCode(settings, high));
+        codes[i + ScreenPointCount] = char(channelCode(settings, high));
     }
     return codes;
 }
@@ -65,8 +65,8 @@ QByteArray peakCodes(const SimState& state, const Frame& frame, int channel)
 QByteArray plainCodes(const SimState& state, const Frame& frame, int channel)
 {
     const ChannelState& settings = state.channels[channel];
-    QByteArray codes(kScreenPointCount, '\0');
-    for (int i = 0; i < kScreenPointCount; ++i)
+    QByteArray codes(ScreenPointCount, '\0');
+    for (int i = 0; i < ScreenPointCount; ++i)
         codes[i] =
             char(channelCode(settings, sampledVolts(state, channel, pointTime(state, frame, channel, i))));
     return codes;
@@ -74,7 +74,7 @@ QByteArray plainCodes(const SimState& state, const Frame& frame, int channel)
 
 bool validChannel(int channel)
 {
-    return channel >= 0 && channel < kChannels;
+    return channel >= 0 && channel < Channels;
 }
 
 } // namespace
@@ -95,7 +95,7 @@ QByteArray channelRecordCodes(const SimState& state, const Frame& frame, int cha
 {
     if (!validChannel(channel) || !frame.captured[channel] || count <= 0) return {};
     const ChannelState& settings = state.channels[channel];
-    const double centre = pointTime(state, frame, channel, kScreenPointCount / 2);
+    const double centre = pointTime(state, frame, channel, ScreenPointCount / 2);
     const double step = 1.0 / sampleRate(state, channel);
     QByteArray codes(count, '\0');
     for (int k = 0; k < count; ++k)

@@ -9,7 +9,7 @@
 
 #include <QByteArray>
 
-constexpr int kScreenPointCount = 600;
+constexpr int ScreenPointCount = 600;
 
 // The time of screen point `point` (0 to 599) of a channel.
 double pointTime(const SimState& state, const Frame& frame, int channel, double point);

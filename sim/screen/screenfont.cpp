@@ -2,11 +2,11 @@
 
 namespace {
 
-constexpr int kFirstGlyph = 0x20;
-constexpr int kLastGlyph = 0x7e;
+constexpr int FirstGlyph = 0x20;
+constexpr int LastGlyph = 0x7e;
 
 // Printable ASCII from the blank to the tilde.
-constexpr GlyphRows kGlyphs[kLastGlyph - kFirstGlyph + 1] = {
+constexpr GlyphRows Glyphs[LastGlyph - FirstGlyph + 1] = {
     {0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00}, // ' '
     {0x04, 0x04, 0x04, 0x04, 0x04, 0x00, 0x04}, // !
     {0x0A, 0x0A, 0x0A, 0x00, 0x00, 0x00, 0x00}, // "
@@ -109,6 +109,6 @@ constexpr GlyphRows kGlyphs[kLastGlyph - kFirstGlyph + 1] = {
 const GlyphRows& glyphRows(QChar c)
 {
     const int code = c.unicode();
-    if (code < kFirstGlyph || code > kLastGlyph) return kGlyphs['?' - kFirstGlyph];
-    return kGlyphs[code - kFirstGlyph];
+    if (code < FirstGlyph || code > LastGlyph) return Glyphs['?' - FirstGlyph];
+    return Glyphs[code - FirstGlyph];
 }

@@ -5,11 +5,11 @@
 #include <array>
 #include <cstdint>
 
-constexpr int kGlyphWidth = 5;
-constexpr int kGlyphHeight = 7;
-constexpr int kGlyphPitch = 6;
+constexpr int GlyphWidth = 5;
+constexpr int GlyphHeight = 7;
+constexpr int GlyphPitch = 6;
 
 // Seven rows, top first; bit 4 is the leftmost pixel. Characters outside
 // printable ASCII come out as '?'.
-using GlyphRows = std::array<std::uint8_t, kGlyphHeight>;
+using GlyphRows = std::array<std::uint8_t, GlyphHeight>;
 const GlyphRows& glyphRows(QChar c);

@@ -13,15 +13,15 @@
 #include <QVector>
 #include <array>
 
-constexpr int kScreenWidth = 320;
-constexpr int kScreenHeight = 240;
-constexpr int kScreenBmpSize = 77878;
-constexpr int kScreenPoints = 600;
+constexpr int ScreenWidth = 320;
+constexpr int ScreenHeight = 240;
+constexpr int ScreenBmpSize = 77878;
+constexpr int ScreenPoints = 600;
 
 struct ScreenTrace {
     bool on = false;
     QRgb colour = qRgb(255, 255, 0);
-    // kScreenPoints codes; fewer are drawn as far as they go, more are ignored.
+    // ScreenPoints codes; fewer are drawn as far as they go, more are ignored.
     QVector<int> codes;
     // Peak detect: the second code of each point (the trace then fills the
     // span between the two codes of a point). Empty for an ordinary trace.
@@ -51,6 +51,6 @@ struct ScreenPicture {
 // Fills the five traces' colours and marks with the instrument's defaults.
 ScreenPicture defaultScreenPicture();
 
-// Exactly kScreenBmpSize bytes: file header, info header, 256-colour palette,
+// Exactly ScreenBmpSize bytes: file header, info header, 256-colour palette,
 // 320 x 240 pixel indices with the bottom row first.
 QByteArray renderScreenBmp(const ScreenPicture& picture);

@@ -23,9 +23,8 @@ void fillChannel(ScreenTrace& trace, const SimState& state, const Frame& frame, 
     const ChannelState& settings = state.channels[channel];
     const QByteArray codes = channelScreenCodes(state, frame, channel);
     trace.on = settings.display && !codes.isEmpty();
-    trace.codes = codesOf(codes, 0, kScreenPointCount);
-    if (codes.size() > kScreenPointCount)
-        trace.peakCodes = codesOf(codes, kScreenPointCount, kScreenPointCount);
+    trace.codes = codesOf(codes, 0, ScreenPointCount);
+    if (codes.size() > ScreenPointCount) trace.peakCodes = codesOf(codes, ScreenPointCount, ScreenPointCount);
     trace.position = int(std::lround(settings.position * 25));
     trace.legend =
         QStringLiteral("CH%1 ").arg(channel + 1) + engineeringText(settings.scale * settings.probe, "V");
@@ -36,10 +35,10 @@ void fillMath(ScreenTrace& trace, const SimState& state, const Frame& frame)
     trace.on = state.math.display;
     if (!trace.on) return;
     if (state.math.operation == MathOperation::Fft) {
-        trace.codes = codesOf(fftScreenCodes(state, frame), 0, kScreenPointCount);
+        trace.codes = codesOf(fftScreenCodes(state, frame), 0, ScreenPointCount);
         trace.legend = QStringLiteral("FFT ") + engineeringText(fftHorizontalScale(state), "Hz");
     } else {
-        trace.codes = codesOf(mathScreenCodes(state, frame), 0, kScreenPointCount);
+        trace.codes = codesOf(mathScreenCodes(state, frame), 0, ScreenPointCount);
         trace.legend = QStringLiteral("MATH ") + engineeringText(mathScale(state), "V");
     }
 }
@@ -57,7 +56,7 @@ void fillTrigger(ScreenPicture& picture, const SimState& state)
     const double column = 150 - window.offset / window.scale * 25;
     picture.triggerColumn = column >= 0 && column <= 299 ? int(std::lround(column)) : -1;
     const TriggerSource source = state.trigger.edge.source;
-    if (state.trigger.mode != TriggerType::Edge || int(source) >= kChannels) {
+    if (state.trigger.mode != TriggerType::Edge || int(source) >= Channels) {
         picture.triggerText = QString::fromLatin1(keywordText(Keywords::triggerType(), state.trigger.mode));
         return;
     }
@@ -72,7 +71,7 @@ void fillTrigger(ScreenPicture& picture, const SimState& state)
 ScreenPicture screenPictureOf(const SimState& state, const Frame& frame, bool waiting)
 {
     ScreenPicture picture = defaultScreenPicture();
-    for (int channel = 0; channel < kChannels; ++channel)
+    for (int channel = 0; channel < Channels; ++channel)
         fillChannel(picture.traces[channel], state, frame, channel);
     fillMath(picture.traces[4], state, frame);
     picture.runText = runText(state, frame, waiting);

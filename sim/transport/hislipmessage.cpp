@@ -6,7 +6,7 @@ namespace hislip {
 
 QByteArray encode(quint8 type, quint8 control, quint32 parameter, QByteArrayView payload)
 {
-    QByteArray message(kHeaderSize, '\0');
+    QByteArray message(HeaderSize, '\0');
     message[0] = 'H';
     message[1] = 'S';
     message[2] = char(type);
@@ -26,19 +26,19 @@ QByteArray sizePayload(quint64 size)
 
 std::optional<Message> Reader::next()
 {
-    if (failed_ || buffer_.size() < kHeaderSize) return std::nullopt;
+    if (failed_ || buffer_.size() < HeaderSize) return std::nullopt;
     const quint64 size = qFromBigEndian<quint64>(buffer_.constData() + 8);
-    if (!buffer_.startsWith("HS") || size > kMaxMessageSize) {
+    if (!buffer_.startsWith("HS") || size > MaxMessageSize) {
         failed_ = true;
         return std::nullopt;
     }
-    if (quint64(buffer_.size()) < kHeaderSize + size) return std::nullopt;
+    if (quint64(buffer_.size()) < HeaderSize + size) return std::nullopt;
     Message message;
     message.type = quint8(buffer_[2]);
     message.control = quint8(buffer_[3]);
     message.parameter = qFromBigEndian<quint32>(buffer_.constData() + 4);
-    message.payload = buffer_.mid(kHeaderSize, qsizetype(size));
-    buffer_.remove(0, kHeaderSize + qsizetype(size));
+    message.payload = buffer_.mid(HeaderSize, qsizetype(size));
+    buffer_.remove(0, HeaderSize + qsizetype(size));
     return message;
 }
 

@@ -38,8 +38,8 @@ enum Fatal : quint8 { PoorlyFormedHeader = 1, NoChannelPair = 2, InvalidInitiali
 // Codes of an Error message.
 enum NonFatal : quint8 { UnrecognizedType = 1 };
 
-constexpr qsizetype kHeaderSize = 16;
-constexpr quint64 kMaxMessageSize = 1 << 20;
+constexpr qsizetype HeaderSize = 16;
+constexpr quint64 MaxMessageSize = 1 << 20;
 
 struct Message {
     quint8 type = 0;

@@ -8,8 +8,8 @@
 using namespace hislip;
 
 namespace {
-constexpr quint32 kProtocolVersion = 0x0100; // 1.0
-constexpr quint32 kVendorId = ('K' << 8) | 'V';
+constexpr quint32 ProtocolVersion = 0x0100; // 1.0
+constexpr quint32 VendorId = ('K' << 8) | 'V';
 
 // One TCP connection: reads its messages and routes them to its session once
 // the first message has said which channel it is.
@@ -53,14 +53,14 @@ class HislipConnection : public QObject {
         if (!session_ || !session_->attachAsync(socket_))
             return sendFatal(socket_, InvalidInitialization, "no such session");
         started_ = true;
-        socket_->write(encode(AsyncInitializeResponse, 0, kVendorId));
+        socket_->write(encode(AsyncInitializeResponse, 0, VendorId));
     }
 
     void startSync()
     {
         session_ = server_.openSession(socket_);
         started_ = synchronous_ = true;
-        socket_->write(encode(InitializeResponse, 0, kProtocolVersion << 16 | session_->id()));
+        socket_->write(encode(InitializeResponse, 0, ProtocolVersion << 16 | session_->id()));
     }
 
     HislipServer& server_;

@@ -45,7 +45,7 @@ void HislipSession::handleAsync(const Message& message)
     switch (message.type) {
     case AsyncMaximumMessageSize:
         setClientMaximum(message.payload);
-        return answerAsync(AsyncMaximumMessageSizeResponse, 0, 0, sizePayload(kMaxMessageSize));
+        return answerAsync(AsyncMaximumMessageSizeResponse, 0, 0, sizePayload(MaxMessageSize));
     case AsyncLock: return answerAsync(AsyncLockResponse, 1, 0); // granted (or released)
     case AsyncLockInfo: return answerAsync(AsyncLockInfoResponse, 0, 0);
     case AsyncRemoteLocalControl: return answerAsync(AsyncRemoteLocalResponse, 0, 0);
@@ -61,7 +61,7 @@ void HislipSession::handleAsync(const Message& message)
 void HislipSession::sendReply(const QByteArray& reply)
 {
     const qsizetype piece =
-        clientMaximum_ > 0 ? qsizetype(qMin<quint64>(clientMaximum_, kMaxMessageSize)) : reply.size();
+        clientMaximum_ > 0 ? qsizetype(qMin<quint64>(clientMaximum_, MaxMessageSize)) : reply.size();
     for (qsizetype at = 0; at < reply.size(); at += piece) {
         const bool last = at + piece >= reply.size();
         sync_->write(encode(last ? DataEnd : Data, 0, messageId_, reply.mid(at, piece)));

@@ -4,12 +4,12 @@
 #include <utility>
 
 namespace {
-constexpr quint32 kCall = 0;
-constexpr quint32 kReply = 1;
-constexpr quint32 kMsgAccepted = 0;
-constexpr quint32 kMsgDenied = 1;
-constexpr quint32 kRpcMismatch = 0;
-constexpr quint32 kLastFragment = 0x80000000u;
+constexpr quint32 CallMessage = 0;
+constexpr quint32 ReplyMessage = 1;
+constexpr quint32 MsgAccepted = 0;
+constexpr quint32 MsgDenied = 1;
+constexpr quint32 RpcMismatch = 0;
+constexpr quint32 LastFragment = 0x80000000u;
 
 quint32 padded(quint32 size)
 {
@@ -26,7 +26,7 @@ void skipAuth(XdrReader& in)
 XdrWriter replyHeader(quint32 xid, quint32 replyStatus)
 {
     XdrWriter out;
-    out.u32(xid).u32(kReply).u32(replyStatus);
+    out.u32(xid).u32(ReplyMessage).u32(replyStatus);
     return out;
 }
 } // namespace
@@ -81,7 +81,7 @@ std::optional<RpcCall> parseRpcCall(QByteArrayView message, bool* rpcVersionOk)
     XdrReader in(message);
     RpcCall call;
     call.xid = in.u32();
-    if (in.u32() != kCall) return std::nullopt;
+    if (in.u32() != CallMessage) return std::nullopt;
     *rpcVersionOk = in.u32() == 2;
     call.program = in.u32();
     call.version = in.u32();
@@ -95,7 +95,7 @@ std::optional<RpcCall> parseRpcCall(QByteArrayView message, bool* rpcVersionOk)
 
 QByteArray rpcReply(quint32 xid, RpcAccept status, QByteArrayView results)
 {
-    XdrWriter out = replyHeader(xid, kMsgAccepted);
+    XdrWriter out = replyHeader(xid, MsgAccepted);
     out.u32(0).u32(0); // null verifier
     out.u32(quint32(status));
     return out.raw(results).data();
@@ -110,14 +110,14 @@ QByteArray rpcProgramMismatch(quint32 xid, quint32 low, quint32 high)
 
 QByteArray rpcVersionMismatch(quint32 xid)
 {
-    return replyHeader(xid, kMsgDenied).u32(kRpcMismatch).u32(2).u32(2).data();
+    return replyHeader(xid, MsgDenied).u32(RpcMismatch).u32(2).u32(2).data();
 }
 
 std::optional<QByteArray> RecordReader::next()
 {
     while (!failed_ && buffer_.size() >= 4) {
         const quint32 mark = qFromBigEndian<quint32>(buffer_.constData());
-        const qsizetype size = mark & ~kLastFragment;
+        const qsizetype size = mark & ~LastFragment;
         if (record_.size() + size > maxRecord_) {
             failed_ = true;
             break;
@@ -125,12 +125,12 @@ std::optional<QByteArray> RecordReader::next()
         if (buffer_.size() < 4 + size) break;
         record_.append(buffer_.constData() + 4, size);
         buffer_.remove(0, 4 + size);
-        if (mark & kLastFragment) return std::exchange(record_, QByteArray());
+        if (mark & LastFragment) return std::exchange(record_, QByteArray());
     }
     return std::nullopt;
 }
 
 QByteArray recordMarked(QByteArrayView message)
 {
-    return XdrWriter().u32(kLastFragment | quint32(message.size())).raw(message).data();
+    return XdrWriter().u32(LastFragment | quint32(message.size())).raw(message).data();
 }

@@ -18,8 +18,8 @@ bool Portmapper::listen(const QHostAddress& address, quint16 port)
 {
     if (!TcpService::listen(address, port)) return false;
     if (!udp_.bind(address, this->port())) return false;
-    registerService(portmap::kProgram, portmap::kVersion, portmap::kTcp, this->port());
-    registerService(portmap::kProgram, portmap::kVersion, portmap::kUdp, this->port());
+    registerService(portmap::Program, portmap::Version, portmap::Tcp, this->port());
+    registerService(portmap::Program, portmap::Version, portmap::Udp, this->port());
     return true;
 }
 
@@ -34,9 +34,9 @@ QByteArray Portmapper::answer(QByteArrayView message) const
     const std::optional<RpcCall> call = parseRpcCall(message, &rpcVersionOk);
     if (!call) return {};
     if (!rpcVersionOk) return rpcVersionMismatch(call->xid);
-    if (call->program != portmap::kProgram) return rpcReply(call->xid, RpcAccept::ProgUnavail);
-    if (call->version != portmap::kVersion)
-        return rpcProgramMismatch(call->xid, portmap::kVersion, portmap::kVersion);
+    if (call->program != portmap::Program) return rpcReply(call->xid, RpcAccept::ProgUnavail);
+    if (call->version != portmap::Version)
+        return rpcProgramMismatch(call->xid, portmap::Version, portmap::Version);
     return answerCall(call->xid, call->procedure, call->args);
 }
 

@@ -10,10 +10,10 @@
 #include <QUdpSocket>
 
 namespace portmap {
-constexpr quint32 kProgram = 100000;
-constexpr quint32 kVersion = 2;
-constexpr quint32 kTcp = 6;
-constexpr quint32 kUdp = 17;
+constexpr quint32 Program = 100000;
+constexpr quint32 Version = 2;
+constexpr quint32 Tcp = 6;
+constexpr quint32 Udp = 17;
 } // namespace portmap
 
 class Portmapper : public TcpService {

@@ -11,7 +11,7 @@
 
 namespace {
 // A client that never reads can't make the simulator hoard replies without bound.
-constexpr qsizetype kMaxOutput = 16 << 20;
+constexpr qsizetype MaxOutput = 16 << 20;
 
 QString systemError(const char* what)
 {
@@ -71,7 +71,7 @@ void PtyServer::readMaster()
 
 void PtyServer::send(const QByteArray& reply)
 {
-    if (master_ < 0 || output_.size() > kMaxOutput) return;
+    if (master_ < 0 || output_.size() > MaxOutput) return;
     output_ += serialForm(reply);
     writePending();
 }

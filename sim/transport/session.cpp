@@ -2,7 +2,7 @@
 
 namespace {
 // A line this long without a line feed is noise, not a command; it is thrown away.
-constexpr qsizetype kMaxLine = 1 << 20;
+constexpr qsizetype MaxLine = 1 << 20;
 } // namespace
 
 Session::Session(Faults& faults, QObject* parent) : QObject(parent), faults_(faults)
@@ -27,7 +27,7 @@ void Session::receive(const QByteArray& bytes, bool endOfMessage)
         runLine(std::move(input_));
         input_.clear();
     }
-    if (input_.size() > kMaxLine) input_.clear();
+    if (input_.size() > MaxLine) input_.clear();
 }
 
 void Session::clear()

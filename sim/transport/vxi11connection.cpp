@@ -25,8 +25,8 @@ enum Procedure : quint32 {
     CreateIntrChan = 25,
     DestroyIntrChan = 26,
 };
-constexpr quint32 kDeviceAbort = 1;
-constexpr quint32 kDeviceNotAccessible = 3;
+constexpr quint32 DeviceAbort = 1;
+constexpr quint32 DeviceNotAccessible = 3;
 
 bool isDeviceName(const QByteArray& name)
 {
@@ -65,11 +65,11 @@ void Vxi11Connection::handleMessage(const QByteArray& message)
 
 void Vxi11Connection::handleCall(const RpcCall& call)
 {
-    const bool core = call.program == vxi11::kCoreProgram;
-    if (!core && call.program != vxi11::kAbortProgram)
+    const bool core = call.program == vxi11::CoreProgram;
+    if (!core && call.program != vxi11::AbortProgram)
         refuse(call.xid, RpcAccept::ProgUnavail);
-    else if (call.version != vxi11::kVersion)
-        socket_->write(recordMarked(rpcProgramMismatch(call.xid, vxi11::kVersion, vxi11::kVersion)));
+    else if (call.version != vxi11::Version)
+        socket_->write(recordMarked(rpcProgramMismatch(call.xid, vxi11::Version, vxi11::Version)));
     else if (call.procedure == Null)
         send(call.xid, {});
     else if (core)
@@ -102,7 +102,7 @@ void Vxi11Connection::handleCore(const RpcCall& call)
 
 void Vxi11Connection::handleAbort(const RpcCall& call)
 {
-    if (call.procedure != kDeviceAbort) {
+    if (call.procedure != DeviceAbort) {
         refuse(call.xid, RpcAccept::ProcUnavail);
         return;
     }
@@ -135,11 +135,11 @@ void Vxi11Connection::createLink(const RpcCall& call)
     const QByteArray device = in.opaque(256);
     if (!in.ok()) return refuse(call.xid, RpcAccept::GarbageArgs);
     if (!isDeviceName(device))
-        return send(call.xid, XdrWriter().u32(kDeviceNotAccessible).u32(0).u32(0).u32(0).data());
+        return send(call.xid, XdrWriter().u32(DeviceNotAccessible).u32(0).u32(0).u32(0).data());
     Vxi11Link* link = server_.createLink(this);
     connect(&link->session(), &Session::dropRequested, this, &Vxi11Connection::drop);
     send(call.xid,
-         XdrWriter().u32(vxi11::NoError).u32(link->id()).u32(server_.port()).u32(vxi11::kMaxRecvSize).data());
+         XdrWriter().u32(vxi11::NoError).u32(link->id()).u32(server_.port()).u32(vxi11::MaxRecvSize).data());
 }
 
 void Vxi11Connection::deviceWrite(const RpcCall& call)
@@ -152,7 +152,7 @@ void Vxi11Connection::deviceWrite(const RpcCall& call)
     const QByteArray data = in.opaque();
     if (!in.ok()) return refuse(call.xid, RpcAccept::GarbageArgs);
     if (!link) return send(call.xid, XdrWriter().u32(vxi11::InvalidLink).u32(0).data());
-    link->write(data, flags & vxi11::kWriteEnd);
+    link->write(data, flags & vxi11::WriteEnd);
     if (!link->session().isDropped())
         send(call.xid, XdrWriter().u32(vxi11::NoError).u32(quint32(data.size())).data());
 }

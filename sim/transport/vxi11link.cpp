@@ -60,7 +60,7 @@ void Vxi11Link::serveWaitingRead()
         reason |= vxi11::End;
     else if (quint32(piece.size()) == read.request.requestSize)
         reason |= vxi11::ReqCnt;
-    if ((read.request.flags & vxi11::kTermCharSet) && piece.endsWith(char(read.request.termChar)))
+    if ((read.request.flags & vxi11::TermCharSet) && piece.endsWith(char(read.request.termChar)))
         reason |= vxi11::Chr;
     offset_ += piece.size();
     if (whole) {
@@ -76,7 +76,7 @@ QByteArray Vxi11Link::takePiece(const Vxi11ReadRequest& request)
 {
     const QByteArray& front = replies_.front();
     qsizetype size = qMin<qsizetype>(front.size() - offset_, request.requestSize);
-    if (request.flags & vxi11::kTermCharSet) {
+    if (request.flags & vxi11::TermCharSet) {
         const qsizetype at = front.indexOf(char(request.termChar), offset_);
         if (at >= 0 && at < offset_ + size) size = at - offset_ + 1;
     }

@@ -15,8 +15,8 @@
 namespace vxi11 {
 enum Error : quint32 { NoError = 0, InvalidLink = 4, NotSupported = 8, IoTimeout = 15, Aborted = 23 };
 enum Reason : quint32 { ReqCnt = 1, Chr = 2, End = 4 };
-constexpr quint32 kWriteEnd = 0x08;
-constexpr quint32 kTermCharSet = 0x80;
+constexpr quint32 WriteEnd = 0x08;
+constexpr quint32 TermCharSet = 0x80;
 } // namespace vxi11
 
 struct Vxi11ReadRequest {

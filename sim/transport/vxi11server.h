@@ -13,10 +13,10 @@ class Faults;
 class Vxi11Link;
 
 namespace vxi11 {
-constexpr quint32 kCoreProgram = 0x0607AF;
-constexpr quint32 kAbortProgram = 0x0607B0;
-constexpr quint32 kVersion = 1;
-constexpr quint32 kMaxRecvSize = 1 << 20;
+constexpr quint32 CoreProgram = 0x0607AF;
+constexpr quint32 AbortProgram = 0x0607B0;
+constexpr quint32 Version = 1;
+constexpr quint32 MaxRecvSize = 1 << 20;
 } // namespace vxi11
 
 class Vxi11Server : public TcpService {

@@ -1,8 +1,8 @@
 #include "acquire/frmPrgress.h"
 
-#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
 #include "platform/platform.h"
+#include "settings/softwaresettings.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -20,7 +20,7 @@ constexpr int Timer2IntervalMs = 1;
 // Where the window goes when its kept corner lies off the screen, in twips.
 constexpr int FallbackLeft = 400;
 constexpr int FallbackTop = 600;
-const QString placementSection = QStringLiteral("Settings_KV7200B");
+const QString PlacementSection = QStringLiteral("Settings_KV7200B");
 
 QRect screenTwips()
 {
@@ -31,8 +31,8 @@ QRect screenTwips()
 
 } // namespace
 
-frmPrgress::frmPrgress(QWidget* parent)
-    : QDialog(parent), ProgressBar1(new QProgressBar(this)), Timer1(new QTimer(this)),
+frmPrgress::frmPrgress(const Operation& operation, QWidget* parent)
+    : QDialog(parent), operation_(operation), ProgressBar1(new QProgressBar(this)), Timer1(new QTimer(this)),
       Timer2(new QTimer(this))
 {
     setObjectName(QStringLiteral("frmPrgress"));
@@ -51,7 +51,7 @@ frmPrgress::frmPrgress(QWidget* parent)
     connect(Timer2, &QTimer::timeout, this, &frmPrgress::Timer2_Timer);
     placeFromSettings();
     SetProgressView(this);
-    BeginReadingFrame();
+    BeginReadingFrame(operation_);
     Timer1->start();
 }
 
@@ -60,12 +60,10 @@ frmPrgress::~frmPrgress()
     if (&Progress() == this) SetProgressView(nullptr);
 }
 
-bool frmPrgress::RunReading(int code, const QString& caption, QWidget* parent)
+bool frmPrgress::RunReading(const Operation& operation, const QString& caption, QWidget* parent)
 {
     if (!Connected || OperationRunning) return false;
-    OperationCode = code;
-    OperationDone = false;
-    QPointer<frmPrgress> window = new frmPrgress(parent);
+    QPointer<frmPrgress> window = new frmPrgress(operation, parent);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(caption);
     window->show();
@@ -77,10 +75,7 @@ bool frmPrgress::RunReading(int code, const QString& caption, QWidget* parent)
 void frmPrgress::Timer1_Timer()
 {
     Timer1->stop();
-    RunReadingTick();
-    repaint();
-    Sleep(ReadingEndPauseMs);
-    EndReadingFrame();
+    FinishReadingFrame(operation_);
     SetProgressView(nullptr);
     savePlacement();
     close();
@@ -88,7 +83,7 @@ void frmPrgress::Timer1_Timer()
 
 void frmPrgress::Timer2_Timer()
 {
-    ProgressTimerTick();
+    ProgressTimerTick(operation_);
 }
 
 void frmPrgress::setTimer2Enabled(bool enabled)
@@ -116,7 +111,7 @@ double frmPrgress::barMaximum() const
 
 void frmPrgress::refresh()
 {
-    ProgressBar1->repaint();
+    repaint();
 }
 
 void frmPrgress::closeEvent(QCloseEvent* event)
@@ -151,6 +146,6 @@ void frmPrgress::placeFromSettings()
 void frmPrgress::savePlacement()
 {
     const QPoint twips = pos() == placedAt_ ? placedTwips_ : pos() * TwipsPerPixel;
-    SaveSetting(placementSection, QStringLiteral("ProgressLeft"), QString::number(twips.x()));
-    SaveSetting(placementSection, QStringLiteral("ProgressTop"), QString::number(twips.y()));
+    SaveSetting(PlacementSection, QStringLiteral("ProgressLeft"), QString::number(twips.x()));
+    SaveSetting(PlacementSection, QStringLiteral("ProgressTop"), QString::number(twips.y()));
 }

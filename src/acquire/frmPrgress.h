@@ -1,6 +1,7 @@
 #pragma once
-// The small modal window every long exchange with the instrument runs in:
-// Timer1 runs the operation named by OperationCode once, Timer2 moves the bar.
+// The small modal window every long exchange with the instrument runs in. It
+// shows the bar and holds the operation it was given; the frame's steps are
+// those of operation.h: Timer1 runs the operation once, Timer2 moves the bar.
 // The window can't be closed while the operation runs.
 
 #include "acquire/operation.h"
@@ -13,13 +14,13 @@ class QTimer;
 class frmPrgress : public QDialog, public ProgressView {
     Q_OBJECT
   public:
-    explicit frmPrgress(QWidget* parent = nullptr);
+    explicit frmPrgress(const Operation& operation, QWidget* parent = nullptr);
     ~frmPrgress() override;
 
     // The caller's side of a reading: unless the link is down or an operation
-    // runs, shows the window with caption, runs operation code in it and waits,
+    // runs, shows the window with caption, runs the operation in it and waits,
     // the event loop turning, until OperationDone. false when nothing ran.
-    static bool RunReading(int code, const QString& caption, QWidget* parent = nullptr);
+    static bool RunReading(const Operation& operation, const QString& caption, QWidget* parent = nullptr);
 
     void Timer1_Timer();
     void Timer2_Timer();
@@ -40,6 +41,7 @@ class frmPrgress : public QDialog, public ProgressView {
     void placeFromSettings();
     void savePlacement();
 
+    const Operation operation_;
     QPoint placedAt_;    // where the kept corner put the window, in pixels
     QPoint placedTwips_; // the same corner in twips, saved back while the window stays there
     QProgressBar* ProgressBar1;

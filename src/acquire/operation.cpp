@@ -38,15 +38,18 @@ class HeadlessProgress : public ProgressView {
 HeadlessProgress headless;
 ProgressView* installed = nullptr;
 
-const QString tableSources[] = {QStringLiteral("CH1"), QStringLiteral("CH2"), QStringLiteral("CH3"),
+const QString TableSources[] = {QStringLiteral("CH1"), QStringLiteral("CH2"), QStringLiteral("CH3"),
                                 QStringLiteral("CH4"), QStringLiteral("LA")};
 
 // The readings this folder owns, registered like every other subsystem's.
 std::map<int, OperationRoutine> ownRoutines()
 {
-    std::map<int, OperationRoutine> own{{OperationWaveWindow, [] { return ReadWaveWindow(); }}};
+    std::map<int, OperationRoutine> own{
+        {OperationWaveWindow, [](const Operation& reading) { return ReadWaveWindow(reading.slot); }}};
     for (int code = OperationTableCH1; code <= OperationTableLa; ++code)
-        own[code] = [code] { return ReadDataTable(tableSources[code - OperationTableCH1]); };
+        own[code] = [](const Operation& reading) {
+            return ReadDataTable(TableSources[reading.code - OperationTableCH1]);
+        };
     return own;
 }
 
@@ -74,15 +77,15 @@ ReadingEvents& ReadingNotifier()
     return events;
 }
 
-void ProgressTimerTick()
+void ProgressTimerTick(const Operation& running)
 {
     ProgressView& bar = Progress();
     bar.setBarValue(std::min(bar.barValue() + ProgressStep, bar.barMaximum()));
-    if (OperationCode != OperationWaveWindow || !OperationRunning) return;
+    if (running.code != OperationWaveWindow || !OperationRunning) return;
     int percent = ProgressPercent + ProgressStep;
     if (percent > ProgressBase) percent = int(ProgressBase);
     ProgressPercent = int16_t(std::min(percent, 100));
-    Q_EMIT ReadingNotifier().progressPercentChanged();
+    Q_EMIT ReadingNotifier().progressPercentChanged(running.slot);
 }
 
 void SetOperationRoutine(int code, OperationRoutine routine)
@@ -99,14 +102,17 @@ void SetOperationRoutine(int code, OperationRoutine routine)
     routines()[code] = std::move(routine);
 }
 
-bool RunOperation(int code)
+bool RunOperation(const Operation& operation)
 {
-    const auto found = routines().find(code);
-    return found != routines().end() && found->second();
+    const auto found = routines().find(operation.code);
+    return found != routines().end() && found->second(operation);
 }
 
-void BeginReadingFrame()
+void BeginReadingFrame(const Operation& operation)
 {
+    OperationCode = operation.code;
+    if (operation.code == OperationWaveWindow) CurrentWaveIndex = operation.slot;
+    OperationDone = false;
     LinkBusy = true;
     ProgressBase = 0;
     Progress().setTimer2Enabled(false);
@@ -114,31 +120,24 @@ void BeginReadingFrame()
     OperationRunning = true;
 }
 
-void RunReadingTick()
+void FinishReadingFrame(const Operation& operation)
 {
     AskRunState();
-    const bool finished = RunOperation(OperationCode);
-    if (finished && OperationCode == OperationWaveWindow)
-        Q_EMIT ReadingNotifier().waveReadingEnded(CurrentWaveIndex);
-}
-
-void EndReadingFrame()
-{
+    const bool finished = RunOperation(operation);
+    if (finished && operation.code == OperationWaveWindow)
+        Q_EMIT ReadingNotifier().waveReadingEnded(operation.slot);
+    Progress().refresh();
+    Sleep(ReadingEndPauseMs);
     Progress().setTimer2Enabled(false);
     LinkBusy = false;
     OperationDone = true;
     OperationRunning = false;
 }
 
-void RunReadingFrame(int code)
+void RunReadingFrame(const Operation& operation)
 {
-    OperationCode = code;
-    OperationDone = false;
-    BeginReadingFrame();
-    RunReadingTick();
-    Progress().refresh();
-    Sleep(ReadingEndPauseMs);
-    EndReadingFrame();
+    BeginReadingFrame(operation);
+    FinishReadingFrame(operation);
 }
 
 void ResetOperationState()

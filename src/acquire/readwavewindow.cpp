@@ -143,10 +143,10 @@ bool readMath(WaveRecord& r, double share)
 
 } // namespace
 
-bool ReadWaveWindow()
+bool ReadWaveWindow(int slot)
 {
-    if (CurrentWaveIndex < 0 || CurrentWaveIndex >= WaveRecordCount) return false;
-    WaveRecord& r = WaveRecords[size_t(CurrentWaveIndex)];
+    if (slot < 0 || slot >= WaveRecordCount) return false;
+    WaveRecord& r = WaveRecords[size_t(slot)];
     AskRunState();
     MathDisplay = OnOffFromReply(AskNormalised(Query({Piece::Math, Piece::Display})), LanguageEnglish);
     const int traces = shownTraces(r);

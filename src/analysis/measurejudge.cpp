@@ -14,7 +14,7 @@ LimitParts partsOf(const MeasureText& text)
 }
 
 // The export lists the items in this order, which is neither the rows' nor the slots'.
-constexpr const char* exportOrder[MeasureItemCount] = {
+constexpr const char* ExportOrder[MeasureItemCount] = {
     "Vpp",       "Vmax",   "Vmin",         "Vavg",         "Vamp",      "Vtop",
     "Vbase",     "Vrms",   "Vover",        "Vpre",         "Frequency", "Rise Time",
     "Fall Time", "Period", "Pulse Width+", "Pulse Width-", "Duty+",     "Duty-"};
@@ -126,7 +126,7 @@ QString MeasureExportText(const MeasureRecord& record)
     QString text = ProgramTitle + QStringLiteral(" -[Measure]") + LineEnd;
     text += LineEnd + LineEnd + LineEnd + LineEnd;
     text += record.Legend + LineEnd + LineEnd;
-    for (const char* name : exportOrder) {
+    for (const char* name : ExportOrder) {
         const MeasureItem& item = record.Items[size_t(MeasureItems[size_t(MeasureRowOf(name))].slot)];
         text += QLatin1String(name) + QLatin1Char('\t') + item.Value + QLatin1Char('\t') + item.Judgement +
                 LineEnd;

@@ -16,7 +16,7 @@ namespace {
 using namespace Vocab;
 
 // The instrument is asked in this order, which is neither the rows' nor the slots'.
-constexpr const char* readOrder[MeasureItemCount] = {
+constexpr const char* ReadOrder[MeasureItemCount] = {
     "Frequency", "Vpp",       "Vmax",         "Vmin",         "Vtop",  "Vavg",
     "Vbase",     "Vrms",      "Vamp",         "Duty+",        "Duty-", "Period",
     "Rise Time", "Fall Time", "Pulse Width+", "Pulse Width-", "Vover", "Vpre"};
@@ -61,7 +61,7 @@ bool ReadMeasures(int channel)
     CurrentMeasureLegend = legendText(channel);
     WriteCmd(SetCommand({Piece::Measure, Piece::Source}, Word::Channel[channel - 1]));
     const double share = Progress().barMaximum() / MeasureItemCount;
-    for (const char* name : readOrder)
+    for (const char* name : ReadOrder)
         readItem(MeasureRowOf(QLatin1String(name)), channel, share);
     return true;
 }
@@ -69,7 +69,8 @@ bool ReadMeasures(int channel)
 void InstallMeasureOperations()
 {
     for (int channel = 1; channel <= 4; ++channel)
-        SetOperationRoutine(OperationMeasureCH1 + channel - 1, [channel] { return ReadMeasures(channel); });
+        SetOperationRoutine(OperationMeasureCH1 + channel - 1,
+                            [channel](const Operation&) { return ReadMeasures(channel); });
 }
 
 void TakeMeasureReading(MeasureRecord& record, int channel)

@@ -157,7 +157,7 @@ void TableWindowBase::followDisplaySwitches()
 
 bool TableWindowBase::runReading(int code, const QString& caption)
 {
-    return frmPrgress::RunReading(code, caption, this);
+    return frmPrgress::RunReading({code}, caption, this);
 }
 
 void TableWindowBase::keyPressEvent(QKeyEvent* event)

@@ -42,7 +42,7 @@ int RunDownloadCommand(const QStringList& arguments)
     InstallDownloadOperation();
     {
         const ProgressLineView progress("download");
-        RunReadingFrame(OperationDownload);
+        RunReadingFrame({OperationDownload});
     }
     AfterDownload();
     CloseLink();

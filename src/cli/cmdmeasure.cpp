@@ -100,7 +100,7 @@ int RunMeasureCommand(const QStringList& arguments)
     }
     ApplyLanguage(options.language);
     InstallMeasureOperations();
-    RunReadingFrame(OperationMeasureCH1 + options.channel - 1);
+    RunReadingFrame({OperationMeasureCH1 + options.channel - 1});
     MeasureRecord record;
     TakeMeasureReading(record, options.channel);
     CloseLink();

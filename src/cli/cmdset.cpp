@@ -7,6 +7,7 @@
 #include "controller/ctrlstate.h"
 #include "controller/download.h"
 #include "controller/editfields.h"
+#include "controller/editor.h"
 #include "controller/fineadjust.h"
 #include "link/timeouttimer.h"
 #include "text/messages.h"
@@ -69,7 +70,7 @@ int RunSetCommand(const QStringList& arguments)
     }
     ResetCtrlState();
     InstallDownloadOperation();
-    RunReadingFrame(OperationDownload);
+    RunReadingFrame({OperationDownload});
     const QString path = ProductModel + QLatin1Char('\\') + positional[0];
     const EditTarget target = ParseEditPath(path);
     if (!target.known) {

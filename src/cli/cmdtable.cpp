@@ -12,7 +12,7 @@
 
 namespace {
 
-const QStringList tableChannels = {QStringLiteral("CH1"), QStringLiteral("CH2"), QStringLiteral("CH3"),
+const QStringList TableChannels = {QStringLiteral("CH1"), QStringLiteral("CH2"), QStringLiteral("CH3"),
                                    QStringLiteral("CH4")};
 
 struct TableOptions {
@@ -34,7 +34,7 @@ bool parseTableOptions(const QStringList& arguments, TableOptions& options)
     if (!TakeLinkOptions(parser, "table", options.link)) return false;
     options.channel = parser.value("channel").toUpper();
     options.out = parser.value("out");
-    if (tableChannels.contains(options.channel) && !options.out.isEmpty()) return true;
+    if (TableChannels.contains(options.channel) && !options.out.isEmpty()) return true;
     std::fputs("table: --out is needed; --channel takes CH1 to CH4\n", stderr);
     return false;
 }
@@ -50,7 +50,7 @@ int RunTableCommand(const QStringList& arguments)
         CloseLink();
         return 1;
     }
-    RunReadingFrame(OperationTableCH1 + int(tableChannels.indexOf(options.channel)));
+    RunReadingFrame({OperationTableCH1 + int(TableChannels.indexOf(options.channel))});
     DataRecord record;
     record.Channel = options.channel;
     TakeTableReading(record);

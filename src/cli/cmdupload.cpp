@@ -50,7 +50,7 @@ int RunUploadCommand(const QStringList& arguments)
     InstallUploadOperation();
     {
         const ProgressLineView progress("upload");
-        RunReadingFrame(OperationUpload);
+        RunReadingFrame({OperationUpload});
     }
     CloseLink();
     return ExitSent;

@@ -99,12 +99,12 @@ int RunWaveCommand(const QStringList& arguments)
         CloseLink();
         return 1;
     }
-    CurrentWaveIndex = 0;
-    WaveRecord& record = WaveRecords[0];
+    constexpr int Slot = 0;
+    WaveRecord& record = WaveRecords[Slot];
     record.ColorMode = !options.mono;
     record.GridOn = options.grid;
     chooseChannels(record, options.channels);
-    RunReadingFrame(OperationWaveWindow);
+    RunReadingFrame({OperationWaveWindow, Slot});
     record.HasData = true;
     const QImage picture = drawRecord(record, options.zoom);
     CloseLink();

@@ -17,7 +17,7 @@ struct Subcommand {
     int (*run)(const QStringList& arguments);
 };
 
-constexpr Subcommand subcommands[] = {
+constexpr Subcommand Subcommands[] = {
     {"idn", "Connect to the instrument and print its identity.", RunIdnCommand},
     {"wave", "Read one wave window snapshot and write its picture.", RunWaveCommand},
     {"table", "Read one channel as a data table and write its export text.", RunTableCommand},
@@ -40,7 +40,7 @@ constexpr Subcommand subcommands[] = {
 const Subcommand* findSubcommand(const QStringList& arguments)
 {
     if (arguments.size() < 2) return nullptr;
-    for (const Subcommand& command : subcommands)
+    for (const Subcommand& command : Subcommands)
         if (arguments.at(1) == QLatin1String(command.name)) return &command;
     return nullptr;
 }
@@ -48,7 +48,7 @@ const Subcommand* findSubcommand(const QStringList& arguments)
 QString subcommandList()
 {
     QString text = QStringLiteral("\n\nSubcommands (each has --help):\n");
-    for (const Subcommand& command : subcommands)
+    for (const Subcommand& command : Subcommands)
         text += QStringLiteral("  %1  %2\n")
                     .arg(QLatin1String(command.name), -8)
                     .arg(QLatin1String(command.summary));

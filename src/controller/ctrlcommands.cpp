@@ -36,7 +36,7 @@ void NewCtrlRecordInUse()
 
 namespace {
 
-const QString controlFilter = QStringLiteral("Control Files (*.rmt)");
+const QString ControlFilter = QStringLiteral("Control Files (*.rmt)");
 
 QString dialogTitle(const char16_t* english, const char16_t* chinese)
 {
@@ -47,7 +47,7 @@ QString dialogTitle(const char16_t* english, const char16_t* chinese)
 
 QString AskOpenCtrlPath()
 {
-    return OpenFileDialog({dialogTitle(u"Open", u"打开"), controlFilter, {}, {}});
+    return OpenFileDialog({dialogTitle(u"Open", u"打开"), ControlFilter, {}, {}});
 }
 
 QString SaveCtrlRecord(bool saveAs)
@@ -55,7 +55,7 @@ QString SaveCtrlRecord(bool saveAs)
     QString path = saveAs ? QString() : CtrlFileName;
     if (path.isEmpty()) {
         const QString filter =
-            saveAs ? controlFilter + QStringLiteral(";;Text Files (*.txt);;All Files (*.*)") : controlFilter;
+            saveAs ? ControlFilter + QStringLiteral(";;Text Files (*.txt);;All Files (*.*)") : ControlFilter;
         path = SaveFileDialog({saveAs ? CtrlText(u"Save As", u"另存为") : CtrlText(u"Save", u"保存"),
                                filter,
                                {},

@@ -66,7 +66,7 @@ std::vector<Item> itemsOf(CtrlRecord& r)
 }
 
 // The reader files the pulse trigger's HF item into the edge trigger's field.
-constexpr size_t pulseHfItem = 89; // item 91 counted from the first after the header
+constexpr size_t PulseHfItem = 89; // item 91 counted from the first after the header
 
 QByteArray quoted(const QString& text)
 {
@@ -124,7 +124,7 @@ bool ReadCtrlFile(const QString& path)
         return false;
     }
     std::vector<Item> items = itemsOf(CtrlData);
-    items[pulseHfItem] = Item(&CtrlData.EdgeHf);
+    items[PulseHfItem] = Item(&CtrlData.EdgeHf);
     for (const Item& item : items) {
         if (file.atEnd()) {
             MsgBox(QStringLiteral("Input past end of file"), vbCritical);

@@ -304,7 +304,7 @@ void GetTimeBaseParameter()
 
 void InstallDownloadOperation()
 {
-    SetOperationRoutine(OperationDownload, DownloadTransfer);
+    SetOperationRoutine(OperationDownload, [](const Operation&) { return DownloadTransfer(); });
 }
 
 void AfterDownload()

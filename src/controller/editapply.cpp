@@ -1,8 +1,10 @@
+#include "controller/editapply.h"
+
 #include "controller/ctrllink.h"
 #include "controller/ctrlstate.h"
 #include "controller/download.h"
+#include "controller/editapplytrigger.h"
 #include "controller/editfields.h"
-#include "controller/editor.h"
 #include "controller/fineadjust.h"
 #include "link/linkcommands.h"
 #include "platform/platform.h"

@@ -1,3 +1,5 @@
+#include "controller/editapplytrigger.h"
+
 #include "controller/ctrllink.h"
 #include "controller/ctrlstate.h"
 #include "controller/download.h"

@@ -1,7 +1,9 @@
 #pragma once
 // Where the value editor finds a node's value in CtrlData.
 
-#include "controller/editor.h"
+#include "controller/editpath.h"
+
+#include <QString>
 
 // The field a node shows, or null for an action or a node without one.
 QString* EditField(const EditTarget& target);
@@ -11,9 +13,3 @@ const QString& EditItem(const EditTarget& target);
 QString TriggerWireType();
 // The wire word of an alternate window's type.
 QString AltWireType(int window);
-
-// cmdOK's steps for an item of the Trigger group.
-EditResult ApplyTriggerEdit(const EditTarget& target, const QString& value);
-// A time number text (seconds) checked and clamped as the editor takes it; false
-// (with "Enter number only!") when it is not a number.
-bool EditTimeNumber(const QString& value, double& seconds);

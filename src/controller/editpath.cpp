@@ -1,6 +1,7 @@
+#include "controller/editpath.h"
+
 #include "controller/ctrlstate.h"
 #include "controller/ctrltree.h"
-#include "controller/editor.h"
 #include "text/treewords.h"
 
 namespace {

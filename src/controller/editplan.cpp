@@ -1,9 +1,10 @@
+#include "controller/editplan.h"
+
 #include "acquire/operation.h"
 #include "controller/ctrllink.h"
 #include "controller/ctrlstate.h"
 #include "controller/download.h"
 #include "controller/editfields.h"
-#include "controller/editor.h"
 #include "link/devicefacts.h"
 #include "link/linkcommands.h"
 #include "platform/platform.h"
@@ -15,7 +16,7 @@
 
 std::function<void()> EditorDownload = [] {
     InstallDownloadOperation();
-    RunReadingFrame(OperationDownload);
+    RunReadingFrame({OperationDownload});
     AfterDownload();
 };
 

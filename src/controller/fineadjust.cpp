@@ -19,7 +19,7 @@ constexpr double OffsetLimitVolts = 400000;
 struct FineRange {
     long long from, to, step;
 };
-constexpr FineRange fineRanges[] = {
+constexpr FineRange FineRanges[] = {
     {2000, 5000, 50},          {5000, 10000, 100},          {10000, 20000, 200},
     {20000, 50000, 500},       {50000, 100000, 1000},       {100000, 200000, 2000},
     {200000, 500000, 5000},    {500000, 1000000, 10000},    {1000000, 2000000, 20000},
@@ -68,7 +68,7 @@ long long CoarseVoltStep(long long microvolts, bool up)
 
 long long FineVoltStep(long long microvolts, bool up)
 {
-    for (const FineRange& range : fineRanges) {
+    for (const FineRange& range : FineRanges) {
         if (up && microvolts >= range.from && microvolts < range.to) return microvolts + range.step;
         if (!up && microvolts > range.from && microvolts <= range.to) return microvolts - range.step;
     }

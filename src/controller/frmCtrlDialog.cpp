@@ -1,8 +1,8 @@
 #include "controller/frmCtrlDialog.h"
 
 #include "controller/ctrlcommands.h"
-#include "settings/softwaresettings.h"
 #include "platform/platform.h"
+#include "settings/softwaresettings.h"
 #include "text/language.h"
 #include "text/messages.h"
 #include "text/valuetext.h"
@@ -18,9 +18,9 @@ namespace {
 constexpr int ListWidthTwips = 1680;
 constexpr int NumberWidthTwips = 3540;
 // Unit keys: "m", "u", "n", "p", "mV" and the factor each applies.
-constexpr const char* unitCaptions[] = {"m", "u", "n", "p", "mV"};
-constexpr double unitFactors[] = {0.001, 1e-06, 1e-09, 1e-12, 0.001};
-constexpr const char* keyCaptions[] = {"0", "1", "2", "3", "4",   "5",    "6",
+constexpr const char* UnitCaptions[] = {"m", "u", "n", "p", "mV"};
+constexpr double UnitFactors[] = {0.001, 1e-06, 1e-09, 1e-12, 0.001};
+constexpr const char* KeyCaptions[] = {"0", "1", "2", "3", "4",   "5",    "6",
                                        "7", "8", "9", ".", "+/-", "Back", "Clear"};
 } // namespace
 
@@ -43,7 +43,7 @@ CtrlDialog::CtrlDialog(QWidget* parent) : QDialog(parent)
     auto* keys = new QGridLayout(Frame1);
     keys->setSpacing(3);
     for (int i = 0; i < 14; ++i) {
-        cmdKey[size_t(i)] = new QPushButton(QString::fromLatin1(keyCaptions[i]), Frame1);
+        cmdKey[size_t(i)] = new QPushButton(QString::fromLatin1(KeyCaptions[i]), Frame1);
         cmdKey[size_t(i)]->setObjectName(QStringLiteral("cmdKey_%1").arg(i));
         cmdKey[size_t(i)]->setFocusPolicy(Qt::NoFocus);
         // Digits 1 to 9 as on a keypad, then 0 . +/- and the two editing keys.
@@ -56,7 +56,7 @@ CtrlDialog::CtrlDialog(QWidget* parent) : QDialog(parent)
         connect(cmdKey[size_t(i)], &QPushButton::clicked, this, [this, i] { cmdKey_Click(i); });
     }
     for (int i = 0; i < 5; ++i) {
-        cmdEnter[size_t(i)] = new QPushButton(QString::fromLatin1(unitCaptions[i]), this);
+        cmdEnter[size_t(i)] = new QPushButton(QString::fromLatin1(UnitCaptions[i]), this);
         cmdEnter[size_t(i)]->setObjectName(QStringLiteral("cmdEnter_%1").arg(i));
         cmdEnter[size_t(i)]->setFocusPolicy(Qt::NoFocus);
         connect(cmdEnter[size_t(i)], &QPushButton::clicked, this, [this, i] { cmdEnter_Click(i); });
@@ -165,7 +165,7 @@ void CtrlDialog::cmdEnter_Click(int index)
         MsgBox(MsgNumberOnly, vbExclamation);
         return;
     }
-    inputTxt->setText(GeneralFormat(Val(inputTxt->text()) * unitFactors[index]));
+    inputTxt->setText(GeneralFormat(Val(inputTxt->text()) * UnitFactors[index]));
     cmdOK_Click();
 }
 

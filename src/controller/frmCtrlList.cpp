@@ -23,8 +23,8 @@
 #include <QTreeWidget>
 
 namespace {
-constexpr int windowCaptionSlot = 0; // "DSO Controller"
-constexpr int buttonHeight = 26;
+constexpr int WindowCaptionSlot = 0; // "DSO Controller"
+constexpr int ButtonHeight = 26;
 
 QString formatText(bool yt, int language)
 {
@@ -118,7 +118,7 @@ void frmCtrlList::createMenu()
 void frmCtrlList::SetCaptions(int language)
 {
     ApplyCaptions(this, CaptionList::CtrlList,
-                  {{"", windowCaptionSlot, CaptionRole::WindowTitle},
+                  {{"", WindowCaptionSlot, CaptionRole::WindowTitle},
                    {"cmdUpload", 1, CaptionRole::Auto},
                    {"cmdDownload", 2, CaptionRole::Auto},
                    {"cmdUpload", 3, CaptionRole::ToolTip},
@@ -289,14 +289,14 @@ void frmCtrlList::cmdUpload_Click()
 void frmCtrlList::UploadToDSO()
 {
     InstallUploadOperation();
-    frmPrgress::RunReading(OperationUpload, CtrlText(u"Data Uploading...", u"数据上传中..."), this);
+    frmPrgress::RunReading({OperationUpload}, CtrlText(u"Data Uploading...", u"数据上传中..."), this);
 }
 
 void frmCtrlList::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     const int half = width() / 2;
-    cmdUpload->setGeometry(0, 0, half, buttonHeight);
-    cmdDownload->setGeometry(half, 0, width() - half, buttonHeight);
-    CtrlTreeView->setGeometry(0, buttonHeight, width(), std::max(0, height() - buttonHeight));
+    cmdUpload->setGeometry(0, 0, half, ButtonHeight);
+    cmdDownload->setGeometry(half, 0, width() - half, ButtonHeight);
+    CtrlTreeView->setGeometry(0, ButtonHeight, width(), std::max(0, height() - ButtonHeight));
 }

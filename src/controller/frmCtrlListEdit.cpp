@@ -108,6 +108,6 @@ void frmCtrlList::OpenVirtualNode(const QString& group)
 void frmCtrlList::runDownload()
 {
     InstallDownloadOperation();
-    frmPrgress::RunReading(OperationDownload, CtrlText(u"Data Downloading...", u"数据下载中..."), this);
+    frmPrgress::RunReading({OperationDownload}, CtrlText(u"Data Downloading...", u"数据下载中..."), this);
     AfterDownload();
 }

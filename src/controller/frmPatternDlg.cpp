@@ -13,7 +13,7 @@
 
 namespace {
 // Control array names by code number.
-const char* const arrayNames[] = {"N", "High", "Low", "Option1", "Down"};
+const char* const ArrayNames[] = {"N", "High", "Low", "Option1", "Down"};
 } // namespace
 
 PatternDlg::PatternDlg(QWidget* parent) : QDialog(parent)
@@ -28,7 +28,7 @@ PatternDlg::PatternDlg(QWidget* parent) : QDialog(parent)
         auto* group = new QButtonGroup(frame);
         for (int code = 0; code < 5; ++code) {
             auto* radio = new QRadioButton(GetCodeString(code), frame);
-            radio->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(arrayNames[code])).arg(input));
+            radio->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(ArrayNames[code])).arg(input));
             group->addButton(radio);
             column->addWidget(radio);
             radios[size_t(code)][size_t(input)] = radio;

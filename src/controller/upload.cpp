@@ -210,7 +210,7 @@ bool UploadTransfer()
 
 void InstallUploadOperation()
 {
-    SetOperationRoutine(OperationUpload, UploadTransfer);
+    SetOperationRoutine(OperationUpload, [](const Operation&) { return UploadTransfer(); });
 }
 
 void BeforeUpload()

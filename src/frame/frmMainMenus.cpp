@@ -28,8 +28,8 @@ QAction* namedBar(QMenu* menu, const char* name)
 }
 
 // Language names are the same in either language.
-const QString chineseName = QStringLiteral("Chinese");
-const QString englishName = QStringLiteral("English");
+const QString ChineseName = QStringLiteral("Chinese");
+const QString EnglishName = QStringLiteral("English");
 
 // One menu entry wired to its handler.
 QAction* entry(frmMain* window, QMenu* menu, const char* name, Handler handler)
@@ -139,8 +139,8 @@ void frmMain::createHelpMenu()
         checkEntry(this, mnuHelpLanguage, "mnuLanguageChinese", &frmMain::mnuLanguageChinese_Click);
     mnuLanguageEnglish =
         checkEntry(this, mnuHelpLanguage, "mnuLanguageEnglish", &frmMain::mnuLanguageEnglish_Click);
-    mnuLanguageChinese->setText(chineseName);
-    mnuLanguageEnglish->setText(englishName);
+    mnuLanguageChinese->setText(ChineseName);
+    mnuLanguageEnglish->setText(EnglishName);
 }
 
 void frmMain::setMenuCaptions(int language)

@@ -44,7 +44,7 @@ QTimer* makeTimer(QObject* parent, const char* name, int interval)
     return timer;
 }
 
-constexpr int lampRightMargin = 24; // keeps the lamps clear of the size grip
+constexpr int LampRightMargin = 24; // keeps the lamps clear of the size grip
 
 } // namespace
 
@@ -85,7 +85,7 @@ void frmMain::ShowLamp(bool connected)
 // Both lamps move to the same left edge at the right end of the bar.
 void frmMain::placeLamps()
 {
-    const int left = sbrStatus->width() - picLED_ON->width() - lampRightMargin;
+    const int left = sbrStatus->width() - picLED_ON->width() - LampRightMargin;
     const int top = (sbrStatus->height() - picLED_ON->height()) / 2;
     picLED_ON->move(left, top);
     picLED_OFF->move(left, top);

@@ -1,10 +1,10 @@
 #include "frame/frmOptions.h"
 
+#include "frame/optionschoice.h"
+#include "link/linkstate.h"
+#include "settings/softwaresettings.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
-#include "frame/optionschoice.h"
-#include "settings/softwaresettings.h"
-#include "link/linkstate.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -55,8 +55,8 @@ std::array<QRadioButton*, 2> optionPair(QWidget* parent, const char* name)
             named<QRadioButton>(parent, base + QStringLiteral("_1"))};
 }
 
-const QString noDeviceEnglish = QStringLiteral("No Device");
-const QString noDeviceChinese = QStringLiteral("无设备");
+const QString NoDeviceEnglish = QStringLiteral("No Device");
+const QString NoDeviceChinese = QStringLiteral("无设备");
 
 } // namespace
 
@@ -183,7 +183,7 @@ void frmOptions::fillDeviceCombo()
     for (const QString& resource : FindUsbResources())
         DeviceCombo->addItem(ShortResourceText(resource), resource);
     if (DeviceCombo->count() == 0)
-        DeviceCombo->addItem(IsChinese(Language) ? noDeviceChinese : noDeviceEnglish, QString());
+        DeviceCombo->addItem(IsChinese(Language) ? NoDeviceChinese : NoDeviceEnglish, QString());
     const int chosen = DeviceCombo->findData(ResourceName);
     if (chosen >= 0) DeviceCombo->setCurrentIndex(chosen);
 }

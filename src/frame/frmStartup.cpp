@@ -2,9 +2,9 @@
 
 #include "frame/frmMain.h"
 #include "frame/frmSplash.h"
+#include "link/frmDlgResource.h"
 #include "text/language.h"
 #include "text/messages.h"
-#include "link/frmDlgResource.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -14,7 +14,7 @@
 namespace {
 
 // Long enough for the one-shot start timer to have shown both panes.
-constexpr int screenshotDelayMs = 300;
+constexpr int ScreenshotDelayMs = 300;
 
 // Prints the time to the window's first paint and ends the run.
 class FirstPaintProbe : public QObject {
@@ -78,7 +78,7 @@ void InstallStartupProbe(frmMain* window, const StartupProbe& probe, const QElap
 {
     if (!probe.screenshotPath.isEmpty()) {
         const QString path = probe.screenshotPath;
-        QTimer::singleShot(screenshotDelayMs, window, [window, path] { saveScreenshot(window, path); });
+        QTimer::singleShot(ScreenshotDelayMs, window, [window, path] { saveScreenshot(window, path); });
     } else if (probe.quitWhenShown) {
         window->installEventFilter(new FirstPaintProbe(window, sinceStart));
     }

@@ -11,7 +11,7 @@ struct Restriction {
     const char16_t* chinese;
 };
 
-constexpr Restriction restrictions[] = {
+constexpr Restriction Restrictions[] = {
     {u"Can't be used.", u"使用受限."},
     {u"Trigger can't be changed.", u"当前设置下不能修改触发系统."},
     {u"Horizontal can't be changed.", u"当前设置下不能修改水平系统."},
@@ -22,7 +22,7 @@ constexpr Restriction restrictions[] = {
 
 QString RestrictionMessage(int number, int language)
 {
-    const bool known = number >= 0 && number < int(std::size(restrictions));
-    const Restriction& text = restrictions[known ? number : RestrictionNone];
+    const bool known = number >= 0 && number < int(std::size(Restrictions));
+    const Restriction& text = Restrictions[known ? number : RestrictionNone];
     return QString::fromUtf16(IsChinese(language) ? text.chinese : text.english);
 }

@@ -1,7 +1,9 @@
-#include "text/messages.h"
+#include "link/serialport.h"
+
 #include "link/linkstate.h"
-#include "link/serialtransport.h"
+#include "link/serialreceive.h"
 #include "platform/platform.h"
+#include "text/messages.h"
 
 #include <QCoreApplication>
 #include <QPointer>

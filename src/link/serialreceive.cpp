@@ -1,5 +1,6 @@
+#include "link/serialreceive.h"
+
 #include "link/linkstate.h"
-#include "link/serialtransport.h"
 
 namespace {
 

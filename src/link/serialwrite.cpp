@@ -1,9 +1,11 @@
-#include "text/valuetext.h"
-#include "text/messages.h"
+#include "link/serialwrite.h"
+
 #include "link/linklamp.h"
 #include "link/linkstate.h"
-#include "link/serialtransport.h"
+#include "link/serialport.h"
 #include "platform/platform.h"
+#include "text/messages.h"
+#include "text/valuetext.h"
 
 #include <QSerialPort>
 #include <algorithm>

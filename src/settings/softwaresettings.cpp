@@ -6,28 +6,28 @@
 namespace {
 
 // The values of a first start.
-constexpr int defaultGpibAddress = 7;
-constexpr int defaultRefreshInterval = 1000;
-constexpr WindowPlacement defaultMain{1000, 1000, 6500, 6500};
-constexpr WindowPlacement defaultProgress{500, 800, 0, 0};
+constexpr int DefaultGpibAddress = 7;
+constexpr int DefaultRefreshInterval = 1000;
+constexpr WindowPlacement DefaultMain{1000, 1000, 6500, 6500};
+constexpr WindowPlacement DefaultProgress{500, 800, 0, 0};
 
 } // namespace
 
 bool StartupCheckHardware = false;
 bool StartupLoadSheet = false;
 bool StartupLoadCtrl = false;
-int GpibAddress = defaultGpibAddress;
+int GpibAddress = DefaultGpibAddress;
 QString RefreshType = RefreshSingle;
-int RefreshInterval = defaultRefreshInterval;
-WindowPlacement MainPlacement = defaultMain;
-WindowPlacement ProgressPlacement = defaultProgress;
+int RefreshInterval = DefaultRefreshInterval;
+WindowPlacement MainPlacement = DefaultMain;
+WindowPlacement ProgressPlacement = DefaultProgress;
 
 namespace {
 
-const QString general = QStringLiteral("General_KV7200B");
-const QString io = QStringLiteral("IO Settings_KV7200B");
-const QString refresh = QStringLiteral("Refresh_KV7200B");
-const QString windows = QStringLiteral("Settings_KV7200B");
+const QString GeneralSection = QStringLiteral("General_KV7200B");
+const QString IoSection = QStringLiteral("IO Settings_KV7200B");
+const QString RefreshSection = QStringLiteral("Refresh_KV7200B");
+const QString WindowsSection = QStringLiteral("Settings_KV7200B");
 
 // Flags are kept in the store as -1 and 0; a "True" written by hand reads as set.
 bool readFlag(const QString& section, const QString& key)
@@ -51,50 +51,50 @@ void writeInt(const QString& section, const QString& key, int value)
 
 void LoadSoftwareSetting()
 {
-    StartupCheckHardware = readFlag(general, "StartupCheckHardware");
-    StartupLoadSheet = readFlag(general, "StartupLoadSheet");
-    StartupLoadCtrl = readFlag(general, "StartupLoadCtrl");
-    TransportType = GetSettingInt(io, "ScopeIOType", 0);
-    ComPort = GetSettingInt(io, "COM_Port", 1);
-    BaudRate = GetSetting(io, "BaudRate", QStringLiteral("9600"));
-    GpibAddress = GetSettingInt(io, "GPIB_Addr", defaultGpibAddress);
-    RefreshType = GetSetting(refresh, "Refresh Type", RefreshSingle);
-    RefreshInterval = GetSettingInt(refresh, "Refresh Interval", defaultRefreshInterval);
-    MainPlacement.left = GetSettingInt(windows, "MainLeft", defaultMain.left);
-    MainPlacement.top = GetSettingInt(windows, "MainTop", defaultMain.top);
-    MainPlacement.width = GetSettingInt(windows, "MainWidth", defaultMain.width);
-    MainPlacement.height = GetSettingInt(windows, "MainHeight", defaultMain.height);
+    StartupCheckHardware = readFlag(GeneralSection, "StartupCheckHardware");
+    StartupLoadSheet = readFlag(GeneralSection, "StartupLoadSheet");
+    StartupLoadCtrl = readFlag(GeneralSection, "StartupLoadCtrl");
+    TransportType = GetSettingInt(IoSection, "ScopeIOType", 0);
+    ComPort = GetSettingInt(IoSection, "COM_Port", 1);
+    BaudRate = GetSetting(IoSection, "BaudRate", QStringLiteral("9600"));
+    GpibAddress = GetSettingInt(IoSection, "GPIB_Addr", DefaultGpibAddress);
+    RefreshType = GetSetting(RefreshSection, "Refresh Type", RefreshSingle);
+    RefreshInterval = GetSettingInt(RefreshSection, "Refresh Interval", DefaultRefreshInterval);
+    MainPlacement.left = GetSettingInt(WindowsSection, "MainLeft", DefaultMain.left);
+    MainPlacement.top = GetSettingInt(WindowsSection, "MainTop", DefaultMain.top);
+    MainPlacement.width = GetSettingInt(WindowsSection, "MainWidth", DefaultMain.width);
+    MainPlacement.height = GetSettingInt(WindowsSection, "MainHeight", DefaultMain.height);
 }
 
 void SaveSoftwareSetting()
 {
-    writeFlag(general, "StartupCheckHardware", StartupCheckHardware);
-    writeFlag(general, "StartupLoadSheet", StartupLoadSheet);
-    writeFlag(general, "StartupLoadCtrl", StartupLoadCtrl);
-    writeInt(io, "ScopeIOType", TransportType);
-    writeInt(io, "COM_Port", ComPort);
-    SaveSetting(io, "BaudRate", BaudRate);
-    writeInt(io, "GPIB_Addr", GpibAddress);
-    SaveSetting(refresh, "Refresh Type", RefreshType);
-    writeInt(refresh, "Refresh Interval", RefreshInterval);
-    writeInt(windows, "MainLeft", MainPlacement.left);
-    writeInt(windows, "MainTop", MainPlacement.top);
-    writeInt(windows, "MainWidth", MainPlacement.width);
-    writeInt(windows, "MainHeight", MainPlacement.height);
+    writeFlag(GeneralSection, "StartupCheckHardware", StartupCheckHardware);
+    writeFlag(GeneralSection, "StartupLoadSheet", StartupLoadSheet);
+    writeFlag(GeneralSection, "StartupLoadCtrl", StartupLoadCtrl);
+    writeInt(IoSection, "ScopeIOType", TransportType);
+    writeInt(IoSection, "COM_Port", ComPort);
+    SaveSetting(IoSection, "BaudRate", BaudRate);
+    writeInt(IoSection, "GPIB_Addr", GpibAddress);
+    SaveSetting(RefreshSection, "Refresh Type", RefreshType);
+    writeInt(RefreshSection, "Refresh Interval", RefreshInterval);
+    writeInt(WindowsSection, "MainLeft", MainPlacement.left);
+    writeInt(WindowsSection, "MainTop", MainPlacement.top);
+    writeInt(WindowsSection, "MainWidth", MainPlacement.width);
+    writeInt(WindowsSection, "MainHeight", MainPlacement.height);
 }
 
 void LoadProgressPlacement()
 {
-    ProgressPlacement.left = GetSettingInt(windows, "ProgressLeft", defaultProgress.left);
-    ProgressPlacement.top = GetSettingInt(windows, "ProgressTop", defaultProgress.top);
+    ProgressPlacement.left = GetSettingInt(WindowsSection, "ProgressLeft", DefaultProgress.left);
+    ProgressPlacement.top = GetSettingInt(WindowsSection, "ProgressTop", DefaultProgress.top);
 }
 
 void ResetSoftwareSettings()
 {
     StartupCheckHardware = StartupLoadSheet = StartupLoadCtrl = false;
-    GpibAddress = defaultGpibAddress;
+    GpibAddress = DefaultGpibAddress;
     RefreshType = RefreshSingle;
-    RefreshInterval = defaultRefreshInterval;
-    MainPlacement = defaultMain;
-    ProgressPlacement = defaultProgress;
+    RefreshInterval = DefaultRefreshInterval;
+    MainPlacement = DefaultMain;
+    ProgressPlacement = DefaultProgress;
 }

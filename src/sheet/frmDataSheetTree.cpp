@@ -18,7 +18,7 @@
 #include <QVBoxLayout>
 
 namespace {
-constexpr int windowCaptionSlot = 0; // "Data Sheet"
+constexpr int WindowCaptionSlot = 0; // "Data Sheet"
 }
 
 frmDataSheetTree::frmDataSheetTree(QWidget* parent) : QWidget(parent)
@@ -43,7 +43,7 @@ frmDataSheetTree::~frmDataSheetTree() = default;
 
 void frmDataSheetTree::SetCaptions(int language)
 {
-    ApplyCaptions(this, CaptionList::SheetNames, {{"", windowCaptionSlot, CaptionRole::WindowTitle}},
+    ApplyCaptions(this, CaptionList::SheetNames, {{"", WindowCaptionSlot, CaptionRole::WindowTitle}},
                   language);
     setMenuCaptions(language);
 }

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr const char* tagProperty = "Tag";
+constexpr const char* TagProperty = "Tag";
 
 // A kind with no window of its own gets an empty frame of the right name and size.
 QMdiSubWindow* makeEmptyWindow(QMdiArea* area, SheetKind kind)
@@ -74,7 +74,7 @@ void SetWindowTag(QMdiSubWindow* window, int slot)
     else if (auto* memory = qobject_cast<frmOpenWaveform*>(window->widget()))
         memory->setSlot(slot);
     else
-        window->widget()->setProperty(tagProperty, QString::number(slot));
+        window->widget()->setProperty(TagProperty, QString::number(slot));
 }
 
 int WindowTag(const QMdiSubWindow* window)
@@ -84,7 +84,7 @@ int WindowTag(const QMdiSubWindow* window)
     if (auto* table = qobject_cast<const TableWindowBase*>(window->widget())) return table->slot();
     if (auto* memory = qobject_cast<const frmOpenWaveform*>(window->widget())) return memory->slot();
     bool ok = false;
-    const int slot = window->widget()->property(tagProperty).toString().toInt(&ok);
+    const int slot = window->widget()->property(TagProperty).toString().toInt(&ok);
     return ok ? slot : -1;
 }
 

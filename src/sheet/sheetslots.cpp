@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int treeCaptionSlot = 0;
-constexpr int defaultNameSlot = 1;
+constexpr int TreeCaptionSlot = 0;
+constexpr int DefaultNameSlot = 1;
 
 QStringList& namesOf(SheetKind kind)
 {
@@ -80,12 +80,12 @@ void RenameSlot(SheetKind kind, int slot, const QString& name)
 
 QString DefaultSheetName(int language)
 {
-    return Caption(CaptionList::SheetNames, defaultNameSlot, language);
+    return Caption(CaptionList::SheetNames, DefaultNameSlot, language);
 }
 
 QString SheetTreeCaption(int language)
 {
-    return Caption(CaptionList::SheetNames, treeCaptionSlot, language);
+    return Caption(CaptionList::SheetNames, TreeCaptionSlot, language);
 }
 
 void OpenNewSheet(int language)

@@ -1,7 +1,8 @@
 // The sections of the record and memory wave windows: the stored files' slots.
 
+#include "sheet/sheetstoredsections.h"
+
 #include "sheet/sheetcodec.h"
-#include "sheet/sheetsections.h"
 
 #include "sheet/sheetfields.h"
 #include "stored/memorywaveslot.h"

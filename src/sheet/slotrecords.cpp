@@ -71,7 +71,7 @@ struct SlotTable {
 };
 
 // One row per kind, in SheetKind order.
-const std::array<SlotTable, SheetKindCount> slotTables{{
+const std::array<SlotTable, SheetKindCount> SlotTables{{
     {clearSlot<MeasureRecords>, shiftDown<MeasureRecords>, nameMeasure},      // Measure
     {clearSlot<DataRecords>, shiftDown<DataRecords>, nullptr},                // Data
     {clearWave, shiftWaves, nameWave},                                        // Wave
@@ -81,7 +81,7 @@ const std::array<SlotTable, SheetKindCount> slotTables{{
 
 const SlotTable& tableOf(SheetKind kind)
 {
-    return slotTables[static_cast<size_t>(KindIndex(kind))];
+    return SlotTables[static_cast<size_t>(KindIndex(kind))];
 }
 
 } // namespace

@@ -24,7 +24,7 @@
 
 namespace {
 
-constexpr const char* tagProperty = "Tag";
+constexpr const char* TagProperty = "Tag";
 
 template <typename T> T* named(T* control, const QString& name)
 {
@@ -56,7 +56,7 @@ QToolButton* toolButton(QWidget* parent, const QString& name)
 frmRecordPlay::frmRecordPlay(int slot, QWidget* parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("frmRecordPlay"));
-    setProperty(tagProperty, QString::number(RecordSlotAt(slot) ? slot : 0));
+    setProperty(TagProperty, QString::number(RecordSlotAt(slot) ? slot : 0));
     buildControls();
     connectControls();
     SetCaptions(Language);
@@ -70,7 +70,7 @@ frmRecordPlay::~frmRecordPlay() = default;
 
 int frmRecordPlay::slot() const
 {
-    const int tag = property(tagProperty).toString().toInt();
+    const int tag = property(TagProperty).toString().toInt();
     return RecordSlotAt(tag) ? tag : 0;
 }
 

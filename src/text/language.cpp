@@ -11,19 +11,19 @@
 int Language = LanguageEnglish;
 
 namespace {
-const QString section = QStringLiteral("Selvane_Language_KV7200B");
-const QString key = QStringLiteral("Language");
+const QString LanguageSection = QStringLiteral("Selvane_Language_KV7200B");
+const QString LanguageKey = QStringLiteral("Language");
 QString helpFolder;
 } // namespace
 
 void LoadLanguageSetting()
 {
-    Language = GetSettingInt(section, key, LanguageEnglish);
+    Language = GetSettingInt(LanguageSection, LanguageKey, LanguageEnglish);
 }
 
 void SaveLanguageSetting()
 {
-    SaveSetting(section, key, QString::number(Language));
+    SaveSetting(LanguageSection, LanguageKey, QString::number(Language));
 }
 
 // The help pages ship as HTML under the names the compiled help files had.

@@ -37,7 +37,7 @@ QString MsgContactTitle;
 
 namespace {
 
-const MessageEntry catalogue[] = {
+const MessageEntry Catalogue[] = {
     {&MsgVersionTooLow, u"The version of the DSO must be higher than ", u"DSO 版本必须高于"},
     {&MsgCurrentVersion, u"Current Version is ", u"当前版本是"},
     {&MsgDeviceNotFound, u"Device not found!", u"设备未找到!"},
@@ -78,12 +78,12 @@ const MessageEntry catalogue[] = {
 
 std::span<const MessageEntry> MessageCatalogue()
 {
-    return catalogue;
+    return Catalogue;
 }
 
 void LoadMessages()
 {
-    for (const MessageEntry& entry : catalogue)
+    for (const MessageEntry& entry : Catalogue)
         *entry.text = QString::fromUtf16(IsChinese(Language) ? entry.chinese : entry.english);
 }
 

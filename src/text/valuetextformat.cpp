@@ -1,4 +1,7 @@
-#include "text/valuetext.h"
+#include "text/valuetextformat.h"
+
+#include "text/formatmask.h"
+#include "text/valuetextparse.h"
 
 namespace {
 

@@ -1,7 +1,10 @@
 // The digit-ladder formatters: the first rung whose threshold the value reaches
 // picks the mask and the unit prefix.
 
-#include "text/valuetext.h"
+#include "text/valuetextladder.h"
+
+#include "text/formatmask.h"
+#include "text/valuetextparse.h"
 
 #include <cmath>
 #include <limits>

@@ -1,4 +1,7 @@
-#include "text/valuetext.h"
+#include "text/valuetextlevel.h"
+
+#include "text/formatmask.h"
+#include "text/valuetextparse.h"
 
 #include <QStringList>
 #include <utility>

@@ -1,7 +1,9 @@
 // Measured numbers: a table of tests, first that holds, each giving the power of
 // ten the number is shown at and the unit index; no test holding means out of range.
 
-#include "text/valuetext.h"
+#include "text/valuetextmeasure.h"
+
+#include "text/formatmask.h"
 
 #include <span>
 

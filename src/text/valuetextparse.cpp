@@ -1,4 +1,6 @@
-#include "text/valuetext.h"
+#include "text/valuetextparse.h"
+
+#include "text/formatmask.h"
 
 #include <charconv>
 #include <cmath>

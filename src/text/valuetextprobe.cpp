@@ -1,5 +1,8 @@
+#include "text/valuetextprobe.h"
+
+#include "text/formatmask.h"
 #include "text/steplists.h"
-#include "text/valuetext.h"
+#include "text/valuetextladder.h"
 
 #include <QHash>
 

@@ -33,7 +33,7 @@ ViStatus findRsrc(ViSession sesn, ViConstString expr, ViPFindList vi, ViPUInt32 
     if (!builtinObjects().isManager(sesn)) return VI_ERROR_INV_OBJECT;
     const auto pattern = FindPattern::compile(expr ? expr : "");
     if (!pattern) return VI_ERROR_INV_EXPR;
-    std::vector<std::string> found = listResources(kUsbmiscClassDir);
+    std::vector<std::string> found = listResources(UsbmiscClassDir);
     std::erase_if(found, [&](const std::string& name) { return !pattern->matches(name); });
     if (found.empty()) return VI_ERROR_RSRC_NFOUND;
     if (retCnt) *retCnt = ViUInt32(found.size());
@@ -125,10 +125,10 @@ ViStatus getAttribute(ViObject vi, ViAttr attrName, void* attrValue)
     if (const auto session = builtinObjects().session(vi)) return session->getAttribute(attrName, attrValue);
     if (!builtinObjects().exists(vi)) return VI_ERROR_INV_OBJECT;
     switch (attrName) {
-    case VI_ATTR_RSRC_MANF_NAME: copyAttributeText(kManufacturerName, attrValue); return VI_SUCCESS;
-    case VI_ATTR_RSRC_SPEC_VERSION: *static_cast<ViVersion*>(attrValue) = kSpecVersion; return VI_SUCCESS;
+    case VI_ATTR_RSRC_MANF_NAME: copyAttributeText(ManufacturerName, attrValue); return VI_SUCCESS;
+    case VI_ATTR_RSRC_SPEC_VERSION: *static_cast<ViVersion*>(attrValue) = SpecVersion; return VI_SUCCESS;
     case VI_ATTR_RSRC_IMPL_VERSION:
-        *static_cast<ViVersion*>(attrValue) = kImplementationVersion;
+        *static_cast<ViVersion*>(attrValue) = ImplementationVersion;
         return VI_SUCCESS;
     case VI_ATTR_RSRC_MANF_ID: *static_cast<ViUInt16*>(attrValue) = 0; return VI_SUCCESS;
     default: return VI_ERROR_NSUP_ATTR;

@@ -11,7 +11,7 @@
 namespace selvane::visa {
 
 namespace {
-constexpr size_t kReceiveChunk = 65536;
+constexpr size_t ReceiveChunk = 65536;
 
 // Waits until the descriptor is ready for `events`; VI_ERROR_TMO when the deadline passes first.
 ViStatus waitFor(int fd, short events, const Deadline& deadline)
@@ -97,14 +97,14 @@ ViStatus FdChannel::sendAll(const void* data, size_t size, const Deadline& deadl
 ViStatus FdChannel::receiveMore(const Deadline& deadline)
 {
     if (fd_ < 0) return VI_ERROR_CONN_LOST;
-    if (head_ >= kReceiveChunk || head_ == buffer_.size()) {
+    if (head_ >= ReceiveChunk || head_ == buffer_.size()) {
         buffer_.erase(buffer_.begin(), buffer_.begin() + std::ptrdiff_t(head_));
         head_ = 0;
     }
     for (;;) {
         const size_t old = buffer_.size();
-        buffer_.resize(old + kReceiveChunk);
-        const ssize_t n = ::read(fd_, buffer_.data() + old, kReceiveChunk);
+        buffer_.resize(old + ReceiveChunk);
+        const ssize_t n = ::read(fd_, buffer_.data() + old, ReceiveChunk);
         buffer_.resize(old + (n > 0 ? size_t(n) : 0));
         if (n > 0) return VI_SUCCESS;
         if (n == 0) return VI_ERROR_CONN_LOST;

@@ -9,8 +9,8 @@ namespace {
 using State = FindPattern::State;
 
 // Bounds that keep a hostile expression from exhausting the stack or memory.
-constexpr size_t kMaxExpressionLength = 4096;
-constexpr int kMaxNesting = 64;
+constexpr size_t MaxExpressionLength = 4096;
+constexpr int MaxNesting = 64;
 
 // A way out of a state that is not joined yet: its `next`, or a Split's `alternative`.
 struct Exit {
@@ -76,7 +76,7 @@ class Compiler {
 
     std::optional<Fragment> alternation(int depth)
     {
-        if (depth > kMaxNesting) return std::nullopt;
+        if (depth > MaxNesting) return std::nullopt;
         auto left = sequence(depth);
         while (left && !atEnd() && peek() == '|') {
             ++pos_;
@@ -206,7 +206,7 @@ class Compiler {
 
 std::optional<FindPattern> FindPattern::compile(std::string_view expression)
 {
-    if (expression.empty() || expression.size() > kMaxExpressionLength) return std::nullopt;
+    if (expression.empty() || expression.size() > MaxExpressionLength) return std::nullopt;
     auto built = Compiler(expression).run();
     if (!built) return std::nullopt;
     return FindPattern(std::move(built->first), built->second);

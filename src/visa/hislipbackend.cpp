@@ -14,11 +14,11 @@ namespace {
 
 using namespace hislip;
 
-constexpr uint32_t kClientVersion = 0x0100; // 1.0
-constexpr uint32_t kVendorId = ('S' << 8) | 'V';
-constexpr uint32_t kFirstMessageId = 0xFFFFFF00u;
+constexpr uint32_t ClientVersion = 0x0100; // 1.0
+constexpr uint32_t VendorId = ('S' << 8) | 'V';
+constexpr uint32_t FirstMessageId = 0xFFFFFF00u;
 // What we ask the server to keep its messages to; we buffer beyond a read's limit anyway.
-constexpr uint64_t kClientMaximum = 1u << 20;
+constexpr uint64_t ClientMaximum = 1u << 20;
 
 std::vector<uint8_t> sizePayload(uint64_t size)
 {
@@ -42,7 +42,7 @@ class HislipBackend : public Backend {
         sendEnd_ = settings.sendEnd;
         const uint64_t offer = uint64_t(settings.hislipMaxMessageKb) * 1024;
         if (offer == offeredSize_ || !async_.isOpen()) return VI_SUCCESS;
-        const ViStatus status = negotiateSize(Deadline(kConnectTimeoutMs), offer);
+        const ViStatus status = negotiateSize(Deadline(ConnectTimeoutMs), offer);
         if (status == VI_SUCCESS) offeredSize_ = offer;
         return status;
     }
@@ -56,9 +56,9 @@ class HislipBackend : public Backend {
 
     FdChannel sync_;
     FdChannel async_;
-    uint32_t messageId_ = kFirstMessageId;
-    size_t serverPiece_ = kClientMaximum;
-    uint64_t offeredSize_ = kClientMaximum; // the largest message we told the server we take
+    uint32_t messageId_ = FirstMessageId;
+    size_t serverPiece_ = ClientMaximum;
+    uint64_t offeredSize_ = ClientMaximum; // the largest message we told the server we take
     bool sendEnd_ = true;
     bool delivered_ = false; // a whole reply has reached the caller since our last message
     uint32_t serverVersion_ = 0;
@@ -66,7 +66,7 @@ class HislipBackend : public Backend {
 
 ViStatus HislipBackend::open(const ResourceName& name)
 {
-    const Deadline deadline(kConnectTimeoutMs);
+    const Deadline deadline(ConnectTimeoutMs);
     ViStatus status = connectTcp(name.host, name.port, sync_);
     if (status == VI_SUCCESS) status = initialize(name, deadline);
     if (status == VI_SUCCESS) status = negotiateSize(deadline, offeredSize_);
@@ -77,7 +77,7 @@ ViStatus HislipBackend::initialize(const ResourceName& name, const Deadline& dea
 {
     const auto* subAddress = reinterpret_cast<const uint8_t*>(name.deviceName.data());
     Message reply;
-    ViStatus status = send(sync_, Initialize, 0, kClientVersion << 16 | kVendorId, deadline, subAddress,
+    ViStatus status = send(sync_, Initialize, 0, ClientVersion << 16 | VendorId, deadline, subAddress,
                            name.deviceName.size());
     if (status == VI_SUCCESS) status = await(sync_, InitializeResponse, deadline, reply);
     const uint32_t sessionId = reply.parameter & 0xFFFF;
@@ -98,8 +98,8 @@ ViStatus HislipBackend::negotiateSize(const Deadline& deadline, uint64_t offer)
         const uint64_t theirs =
             uint64_t(readBigEndian32(reply.payload.data())) << 32 | readBigEndian32(reply.payload.data() + 4);
         // The maximum counts the header too; keep a sane floor against odd answers.
-        serverPiece_ = size_t(
-            std::clamp<uint64_t>(theirs > kHeaderSize ? theirs - kHeaderSize : 0, 256, kClientMaximum));
+        serverPiece_ =
+            size_t(std::clamp<uint64_t>(theirs > HeaderSize ? theirs - HeaderSize : 0, 256, ClientMaximum));
     }
     return status;
 }
@@ -143,7 +143,7 @@ ViStatus HislipBackend::clear(const Deadline& deadline)
     if (status == VI_SUCCESS) status = await(async_, AsyncDeviceClearAcknowledge, deadline, reply);
     if (status == VI_SUCCESS) status = send(sync_, DeviceClearComplete, reply.control, 0, deadline);
     if (status == VI_SUCCESS) status = await(sync_, DeviceClearAcknowledge, deadline, reply);
-    messageId_ = kFirstMessageId;
+    messageId_ = FirstMessageId;
     return status;
 }
 

@@ -6,7 +6,7 @@ namespace selvane::visa::hislip {
 
 namespace {
 // Far above the message size we announce; a longer payload means a broken stream.
-constexpr uint64_t kMaxPayload = 64u << 20;
+constexpr uint64_t MaxPayload = 64u << 20;
 
 uint64_t readBigEndian64(const uint8_t* data)
 {
@@ -34,19 +34,19 @@ ViStatus send(FdChannel& channel, uint8_t type, uint8_t control, uint32_t parame
 
 ViStatus receive(FdChannel& channel, const Deadline& deadline, Message& message)
 {
-    if (const ViStatus status = channel.receiveAtLeast(kHeaderSize, deadline); status != VI_SUCCESS)
+    if (const ViStatus status = channel.receiveAtLeast(HeaderSize, deadline); status != VI_SUCCESS)
         return status;
     const uint8_t* header = channel.data();
     const uint64_t length = readBigEndian64(header + 8);
-    if (header[0] != 'H' || header[1] != 'S' || length > kMaxPayload) return VI_ERROR_IO;
-    if (const ViStatus status = channel.receiveAtLeast(kHeaderSize + length, deadline); status != VI_SUCCESS)
+    if (header[0] != 'H' || header[1] != 'S' || length > MaxPayload) return VI_ERROR_IO;
+    if (const ViStatus status = channel.receiveAtLeast(HeaderSize + length, deadline); status != VI_SUCCESS)
         return status;
     header = channel.data();
     message.type = header[2];
     message.control = header[3];
     message.parameter = readBigEndian32(header + 4);
-    message.payload.assign(header + kHeaderSize, header + kHeaderSize + length);
-    channel.consume(kHeaderSize + length);
+    message.payload.assign(header + HeaderSize, header + HeaderSize + length);
+    channel.consume(HeaderSize + length);
     return VI_SUCCESS;
 }
 

@@ -29,7 +29,7 @@ enum Type : uint8_t {
     AsyncDeviceClearAcknowledge = 23,
 };
 
-constexpr size_t kHeaderSize = 16;
+constexpr size_t HeaderSize = 16;
 
 struct Message {
     uint8_t type = 0;

@@ -7,17 +7,17 @@
 namespace selvane::visa {
 
 namespace {
-constexpr uint32_t kCall = 0;
-constexpr uint32_t kReply = 1;
-constexpr uint32_t kRpcVersion = 2;
-constexpr uint32_t kLastFragment = 0x80000000u;
+constexpr uint32_t CallMessage = 0;
+constexpr uint32_t ReplyMessage = 1;
+constexpr uint32_t RpcVersion = 2;
+constexpr uint32_t LastFragment = 0x80000000u;
 // Far above any reply of this layer's calls; a longer record means a broken stream.
-constexpr size_t kMaxRecord = 64u << 20;
+constexpr size_t MaxRecord = 64u << 20;
 
-constexpr uint32_t kPortmapperProgram = 100000;
-constexpr uint32_t kPortmapperVersion = 2;
-constexpr uint32_t kGetPort = 3;
-constexpr uint32_t kProtocolTcp = 6;
+constexpr uint32_t PortmapperProgram = 100000;
+constexpr uint32_t PortmapperVersion = 2;
+constexpr uint32_t GetPort = 3;
+constexpr uint32_t ProtocolTcp = 6;
 
 enum class ReplyCheck { Ours, Stale, Refused };
 
@@ -30,7 +30,8 @@ ReplyCheck checkReply(XdrReader& reader, uint32_t xid)
     reader.u32(); // verifier flavour
     reader.opaque(400);
     const uint32_t acceptStatus = reader.u32();
-    if (!reader.ok() || type != kReply || replyStatus != 0 || acceptStatus != 0) return ReplyCheck::Refused;
+    if (!reader.ok() || type != ReplyMessage || replyStatus != 0 || acceptStatus != 0)
+        return ReplyCheck::Refused;
     return ReplyCheck::Ours;
 }
 } // namespace
@@ -46,10 +47,10 @@ ViStatus RpcClient::call(uint32_t program, uint32_t version, uint32_t procedure,
 {
     const uint32_t xid = ++xid_;
     XdrWriter message;
-    message.u32(xid).u32(kCall).u32(kRpcVersion).u32(program).u32(version).u32(procedure);
+    message.u32(xid).u32(CallMessage).u32(RpcVersion).u32(program).u32(version).u32(procedure);
     message.u32(0).u32(0).u32(0).u32(0); // null credential and verifier
     std::vector<uint8_t> record;
-    appendBigEndian32(record, kLastFragment | uint32_t(message.bytes().size() + arguments.bytes().size()));
+    appendBigEndian32(record, LastFragment | uint32_t(message.bytes().size() + arguments.bytes().size()));
     record.insert(record.end(), message.bytes().begin(), message.bytes().end());
     record.insert(record.end(), arguments.bytes().begin(), arguments.bytes().end());
     if (const ViStatus status = channel_.sendAll(record.data(), record.size(), deadline);
@@ -74,12 +75,12 @@ ViStatus RpcClient::receiveRecord(const Deadline& deadline, std::vector<uint8_t>
         size_t offset = 0;
         while (channel_.available() >= offset + 4) {
             const uint32_t header = readBigEndian32(channel_.data() + offset);
-            const size_t length = header & ~kLastFragment;
-            if (record.size() + length > kMaxRecord) return VI_ERROR_IO;
+            const size_t length = header & ~LastFragment;
+            if (record.size() + length > MaxRecord) return VI_ERROR_IO;
             if (channel_.available() < offset + 4 + length) break;
             record.insert(record.end(), channel_.data() + offset + 4, channel_.data() + offset + 4 + length);
             offset += 4 + length;
-            if (header & kLastFragment) {
+            if (header & LastFragment) {
                 channel_.consume(offset);
                 return VI_SUCCESS;
             }
@@ -96,9 +97,9 @@ ViStatus portmapperGetPort(const std::string& host, uint16_t portmapperPort, uin
         return status;
     RpcClient client(std::move(channel));
     XdrWriter arguments;
-    arguments.u32(program).u32(version).u32(kProtocolTcp).u32(0);
+    arguments.u32(program).u32(version).u32(ProtocolTcp).u32(0);
     std::vector<uint8_t> results;
-    if (client.call(kPortmapperProgram, kPortmapperVersion, kGetPort, arguments, Deadline(kConnectTimeoutMs),
+    if (client.call(PortmapperProgram, PortmapperVersion, GetPort, arguments, Deadline(ConnectTimeoutMs),
                     results) != VI_SUCCESS)
         return VI_ERROR_RSRC_NFOUND;
     XdrReader reader(results.data(), results.size());

@@ -28,7 +28,7 @@ class RpcClient {
     uint32_t xid_ = 0;
 };
 
-constexpr uint16_t kPortmapperPort = 111;
+constexpr uint16_t PortmapperPort = 111;
 
 // Asks the portmapper on `host` for the TCP port of a program; VI_ERROR_RSRC_NFOUND
 // when nothing answers or the program is not registered.

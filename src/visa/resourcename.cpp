@@ -106,7 +106,7 @@ bool parseHislip(std::string_view device, ResourceName& name)
     if (!number<unsigned>(subAddress.substr(6), 999999)) return false;
     name.protocol = TcpipProtocol::Hislip;
     name.deviceName = "hislip" + std::string(subAddress.substr(6));
-    name.port = kHislipDefaultPort;
+    name.port = HislipDefaultPort;
     if (comma == std::string_view::npos) return true;
     const auto port = number<uint16_t>(device.substr(comma + 1), 0xFFFF);
     if (!port || *port == 0) return false;
@@ -162,15 +162,15 @@ struct Prefix {
     std::string_view word;
     Interface interface;
 };
-constexpr Prefix kPrefixes[] = {{"TCPIP", Interface::Tcpip},
-                                {"USB", Interface::Usb},
-                                {"GPIB", Interface::Gpib},
-                                {"ASRL", Interface::Asrl}};
+constexpr Prefix Prefixes[] = {{"TCPIP", Interface::Tcpip},
+                               {"USB", Interface::Usb},
+                               {"GPIB", Interface::Gpib},
+                               {"ASRL", Interface::Asrl}};
 
 // "TCPIP0", "USB", "ASRL/dev/ttyUSB0": the interface and its board.
 bool parseBoard(std::string_view first, ResourceName& name)
 {
-    for (const Prefix& prefix : kPrefixes) {
+    for (const Prefix& prefix : Prefixes) {
         if (!startsWithIgnoringCase(first, prefix.word)) continue;
         const std::string_view board = first.substr(prefix.word.size());
         name.interface = prefix.interface;
@@ -247,7 +247,7 @@ std::string ResourceName::canonical() const
     case Interface::Tcpip:
         if (protocol == TcpipProtocol::Socket)
             return "TCPIP" + b + "::" + bracketed(host) + "::" + std::to_string(port) + "::SOCKET";
-        if (protocol == TcpipProtocol::Hislip && port != kHislipDefaultPort)
+        if (protocol == TcpipProtocol::Hislip && port != HislipDefaultPort)
             return "TCPIP" + b + "::" + bracketed(host) + "::" + deviceName + "," + std::to_string(port) +
                    "::INSTR";
         return "TCPIP" + b + "::" + bracketed(host) + "::" + deviceName + "::INSTR";

@@ -12,7 +12,7 @@ namespace selvane::visa {
 enum class Interface { Tcpip, Usb, Gpib, Asrl };
 enum class TcpipProtocol { Vxi11, Hislip, Socket };
 
-constexpr uint16_t kHislipDefaultPort = 4880;
+constexpr uint16_t HislipDefaultPort = 4880;
 
 struct ResourceName {
     Interface interface = Interface::Tcpip;

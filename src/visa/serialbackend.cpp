@@ -18,14 +18,14 @@ struct BaudCode {
     uint32_t rate;
     speed_t code;
 };
-constexpr BaudCode kBauds[] = {{300, B300},      {600, B600},       {1200, B1200},     {2400, B2400},
-                               {4800, B4800},    {9600, B9600},     {19200, B19200},   {38400, B38400},
-                               {57600, B57600},  {115200, B115200}, {230400, B230400}, {460800, B460800},
-                               {921600, B921600}};
+constexpr BaudCode Bauds[] = {{300, B300},      {600, B600},       {1200, B1200},     {2400, B2400},
+                              {4800, B4800},    {9600, B9600},     {19200, B19200},   {38400, B38400},
+                              {57600, B57600},  {115200, B115200}, {230400, B230400}, {460800, B460800},
+                              {921600, B921600}};
 
 bool isSupportedBaud(uint32_t rate)
 {
-    for (const BaudCode& baud : kBauds)
+    for (const BaudCode& baud : Bauds)
         if (baud.rate == rate) return true;
     return false;
 }
@@ -50,7 +50,7 @@ ViStatus configureLine(int fd, const SerialLine& serial)
     if (serial.parity >= 3) line.c_cflag |= CMSPAR;
     if (serial.flow == 1) line.c_iflag |= IXON | IXOFF;
     if (serial.flow == 2) line.c_cflag |= CRTSCTS;
-    for (const BaudCode& baud : kBauds)
+    for (const BaudCode& baud : Bauds)
         if (baud.rate == serial.baud) {
             ::cfsetispeed(&line, baud.code);
             ::cfsetospeed(&line, baud.code);

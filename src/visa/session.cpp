@@ -48,10 +48,11 @@ ViStatus Session::clear()
 
 ViStatus Session::queryStatusByte(const Deadline& deadline, uint16_t& statusByte)
 {
-    static constexpr uint8_t kQuery[] = "*STB?\n";
+    static constexpr uint8_t StatusByteQuery[] = "*STB?\n";
     size_t count = 0;
     queue_.clear();
-    if (const ViStatus status = backend_->write(kQuery, sizeof kQuery - 1, deadline, count); status < 0)
+    if (const ViStatus status = backend_->write(StatusByteQuery, sizeof StatusByteQuery - 1, deadline, count);
+        status < 0)
         return status;
     uint8_t reply[32];
     const ViStatus status =
@@ -80,15 +81,15 @@ ViStatus Session::trigger()
     const Deadline deadline(settings_.timeoutMs);
     if (!backend_->isStream()) return backend_->trigger(deadline);
     if (ioProtocol_ != VI_PROT_4882_STRS) return VI_ERROR_NSUP_OPER;
-    static constexpr uint8_t kTrigger[] = "*TRG\n";
+    static constexpr uint8_t TriggerCommand[] = "*TRG\n";
     size_t written = 0;
-    return backend_->write(kTrigger, sizeof kTrigger - 1, deadline, written);
+    return backend_->write(TriggerCommand, sizeof TriggerCommand - 1, deadline, written);
 }
 
 ViStatus Session::flush(uint16_t mask)
 {
-    constexpr uint16_t kKnown = 0xFF;
-    if (mask == 0 || (mask & ~kKnown) != 0) return VI_ERROR_INV_MASK;
+    constexpr uint16_t Known = 0xFF;
+    if (mask == 0 || (mask & ~Known) != 0) return VI_ERROR_INV_MASK;
     std::lock_guard lock(mutex_);
     // We keep no write buffer, so writes are always flushed; received bytes can be dropped.
     if (mask & (VI_READ_BUF | VI_READ_BUF_DISCARD | VI_IO_IN_BUF_DISCARD)) queue_.clear();

@@ -10,10 +10,10 @@
 
 namespace selvane::visa {
 
-inline constexpr const char* kManufacturerName = "Selvane";
+inline constexpr const char* ManufacturerName = "Selvane";
 // Major version in the top twelve bits, minor in the next twelve: VISA 7.1, our own 0.1.
-inline constexpr ViVersion kSpecVersion = 0x00700100u;
-inline constexpr ViVersion kImplementationVersion = 0x00000100u;
+inline constexpr ViVersion SpecVersion = 0x00700100u;
+inline constexpr ViVersion ImplementationVersion = 0x00000100u;
 
 class Session {
   public:

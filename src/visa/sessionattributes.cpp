@@ -19,7 +19,7 @@ struct AttributeRow {
     bool writable;
 };
 
-constexpr AttributeRow kAttributes[] = {
+constexpr AttributeRow Attributes[] = {
     {VI_ATTR_RSRC_CLASS, Kind::Text, Scope::Any, false},
     {VI_ATTR_RSRC_NAME, Kind::Text, Scope::Any, false},
     {VI_ATTR_RSRC_MANF_NAME, Kind::Text, Scope::Any, false},
@@ -86,7 +86,7 @@ bool inScope(Scope scope, const ResourceName& name)
 
 const AttributeRow* findRow(ViAttr attribute, const ResourceName& name)
 {
-    for (const AttributeRow& row : kAttributes)
+    for (const AttributeRow& row : Attributes)
         if (row.id == attribute) return inScope(row.scope, name) ? &row : nullptr;
     return nullptr;
 }
@@ -147,8 +147,8 @@ bool Session::number(ViAttr attribute, ViAttrState& value)
     const SerialLine& line = settings_.serial;
     switch (attribute) {
     case VI_ATTR_RSRC_MANF_ID: value = 0; break;
-    case VI_ATTR_RSRC_IMPL_VERSION: value = kImplementationVersion; break;
-    case VI_ATTR_RSRC_SPEC_VERSION: value = kSpecVersion; break;
+    case VI_ATTR_RSRC_IMPL_VERSION: value = ImplementationVersion; break;
+    case VI_ATTR_RSRC_SPEC_VERSION: value = SpecVersion; break;
     case VI_ATTR_RSRC_LOCK_STATE: value = processLocks().state(lockName_); break;
     case VI_ATTR_INTF_TYPE: value = interfaceCode(name_.interface); break;
     case VI_ATTR_INTF_NUM: value = name_.board; break;
@@ -196,7 +196,7 @@ bool Session::text(ViAttr attribute, std::string& value)
     switch (attribute) {
     case VI_ATTR_RSRC_CLASS: value = socket ? "SOCKET" : "INSTR"; return true;
     case VI_ATTR_RSRC_NAME: value = name_.canonical(); return true;
-    case VI_ATTR_RSRC_MANF_NAME: value = kManufacturerName; return true;
+    case VI_ATTR_RSRC_MANF_NAME: value = ManufacturerName; return true;
     case VI_ATTR_INTF_INST_NAME: value = name_.canonical(); return true;
     case VI_ATTR_TCPIP_ADDR: value = numericAddress(name_.host); return true;
     case VI_ATTR_TCPIP_HOSTNAME: value = name_.host; return true;

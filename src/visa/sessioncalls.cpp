@@ -13,7 +13,7 @@ namespace selvane::visa {
 namespace {
 
 constexpr ViUInt16 VI_TRIG_PROT_DEFAULT = 0;
-constexpr size_t kFileChunk = 64 * 1024;
+constexpr size_t FileChunk = 64 * 1024;
 
 // Runs `use` on the session when it exists and no other session holds its resource.
 template <typename Use> ViStatus withSession(ViSession vi, Use&& use)
@@ -56,8 +56,8 @@ ViStatus flush(ViSession vi, ViUInt16 mask)
 ViStatus setBuffer(ViSession vi, ViUInt16 mask, ViUInt32)
 {
     return withSession(vi, [&](Session&) {
-        constexpr ViUInt16 kBuffers = VI_READ_BUF | VI_WRITE_BUF | VI_IO_IN_BUF | VI_IO_OUT_BUF;
-        return mask == 0 || (mask & ~kBuffers) != 0 ? VI_ERROR_INV_MASK : VI_SUCCESS;
+        constexpr ViUInt16 Buffers = VI_READ_BUF | VI_WRITE_BUF | VI_IO_IN_BUF | VI_IO_OUT_BUF;
+        return mask == 0 || (mask & ~Buffers) != 0 ? VI_ERROR_INV_MASK : VI_SUCCESS;
     });
 }
 
@@ -130,7 +130,7 @@ ViStatus readToFile(ViSession vi, ViConstString fileName, ViUInt32 count, ViPUIn
         if (!fileName) return VI_ERROR_INV_PARAMETER;
         FilePointer file(std::fopen(fileName, session.fileAppend() ? "ab" : "wb"), &std::fclose);
         if (!file) return VI_ERROR_FILE_ACCESS;
-        std::vector<uint8_t> buffer(std::min<size_t>(count, kFileChunk));
+        std::vector<uint8_t> buffer(std::min<size_t>(count, FileChunk));
         ViUInt32 total = 0;
         ViStatus status = VI_SUCCESS_MAX_CNT;
         while (total < count && status == VI_SUCCESS_MAX_CNT) {

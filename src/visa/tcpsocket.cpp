@@ -44,7 +44,7 @@ ViStatus connectTcp(const std::string& host, uint16_t port, FdChannel& channel)
     if (::getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found) != 0)
         return VI_ERROR_RSRC_NFOUND;
     std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> list(found, &::freeaddrinfo);
-    const Deadline deadline(kConnectTimeoutMs);
+    const Deadline deadline(ConnectTimeoutMs);
     for (const addrinfo* address = found; address; address = address->ai_next) {
         const int fd = connectAddress(*address, deadline);
         if (fd >= 0) {

@@ -9,7 +9,7 @@
 namespace selvane::visa {
 
 // Time allowed for a connection to be accepted while a session opens.
-constexpr uint32_t kConnectTimeoutMs = 5000;
+constexpr uint32_t ConnectTimeoutMs = 5000;
 
 // VI_ERROR_RSRC_NFOUND when the host is unknown or nothing answers.
 ViStatus connectTcp(const std::string& host, uint16_t port, FdChannel& channel);

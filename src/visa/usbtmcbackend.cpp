@@ -16,8 +16,8 @@ namespace selvane::visa {
 
 namespace {
 
-constexpr uint32_t kDriverMinimumTimeoutMs = 100;
-constexpr size_t kMaxTransfer = 1u << 20;
+constexpr uint32_t DriverMinimumTimeoutMs = 100;
+constexpr size_t MaxTransfer = 1u << 20;
 
 class UsbtmcBackend : public Backend {
   public:
@@ -48,7 +48,7 @@ class UsbtmcBackend : public Backend {
     // The driver's time-out is per transfer; give each transfer what is left of the call's.
     void setTimeout(const Deadline& deadline)
     {
-        uint32_t ms = std::max(deadline.remainingMs(), kDriverMinimumTimeoutMs);
+        uint32_t ms = std::max(deadline.remainingMs(), DriverMinimumTimeoutMs);
         ::ioctl(fd_, USBTMC_IOCTL_SET_TIMEOUT, &ms);
     }
 
@@ -68,7 +68,7 @@ ViStatus UsbtmcBackend::write(const uint8_t* data, size_t size, const Deadline& 
 
 ViStatus UsbtmcBackend::fetch(size_t wanted, const ReadSettings&, const Deadline& deadline, InputQueue& queue)
 {
-    std::vector<uint8_t> buffer(std::clamp<size_t>(wanted, 1, kMaxTransfer));
+    std::vector<uint8_t> buffer(std::clamp<size_t>(wanted, 1, MaxTransfer));
     setTimeout(deadline);
     ssize_t n;
     do

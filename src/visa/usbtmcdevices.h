@@ -11,7 +11,7 @@
 
 namespace selvane::visa {
 
-inline constexpr const char* kUsbmiscClassDir = "/sys/class/usbmisc";
+inline constexpr const char* UsbmiscClassDir = "/sys/class/usbmisc";
 
 struct UsbtmcDevice {
     std::string node; // "usbtmc0": the device file is /dev/<node>
@@ -27,7 +27,7 @@ struct UsbtmcDevice {
 };
 
 // In node order; entries whose sysfs data can't be read are left out.
-std::vector<UsbtmcDevice> listUsbtmcDevices(const std::string& classDir = kUsbmiscClassDir);
+std::vector<UsbtmcDevice> listUsbtmcDevices(const std::string& classDir = UsbmiscClassDir);
 
 // The device a USB resource name means: matching ids and serial (ignoring case),
 // and the given interface or else the lowest-numbered one. Null when absent.

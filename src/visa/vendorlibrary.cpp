@@ -12,8 +12,8 @@ namespace selvane::visa {
 namespace {
 
 // File names vendor VISA libraries are installed under on Linux; the shared IVI router first.
-constexpr const char* kSystemLibraries[] = {"libivivisa.so",  "libvisa.so",   "libvisa.so.0",
-                                            "libktvisa32.so", "libiovisa.so", "librsvisa.so"};
+constexpr const char* SystemLibraries[] = {"libivivisa.so",  "libvisa.so",   "libvisa.so.0",
+                                           "libktvisa32.so", "libiovisa.so", "librsvisa.so"};
 
 template <typename Function> bool bind(void* library, const char* symbol, Function& function)
 {
@@ -66,7 +66,7 @@ Implementation currentImplementation()
         const std::string path = std::getenv("SELVANE_VISA_LIBRARY");
         return Implementation{loadVisaLibrary(path), path};
     }
-    for (const char* name : kSystemLibraries)
+    for (const char* name : SystemLibraries)
         if (const VisaApi* api = loadVisaLibrary(name)) return Implementation{api, name};
     return builtin;
 }

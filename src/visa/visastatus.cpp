@@ -8,7 +8,7 @@ struct StatusEntry {
     const char* text;
 };
 
-constexpr StatusEntry kStatuses[] = {
+constexpr StatusEntry Statuses[] = {
     {VI_SUCCESS, "VI_SUCCESS", "Operation completed successfully."},
     {VI_SUCCESS_EVENT_EN, "VI_SUCCESS_EVENT_EN", "The event was already enabled."},
     {VI_SUCCESS_EVENT_DIS, "VI_SUCCESS_EVENT_DIS", "The event was already disabled."},
@@ -53,7 +53,7 @@ constexpr StatusEntry kStatuses[] = {
 
 const StatusEntry* find(ViStatus status)
 {
-    for (const StatusEntry& entry : kStatuses)
+    for (const StatusEntry& entry : Statuses)
         if (entry.code == status) return &entry;
     return nullptr;
 }

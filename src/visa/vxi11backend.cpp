@@ -14,8 +14,8 @@ namespace selvane::visa {
 
 namespace {
 
-constexpr uint32_t kCoreProgram = 0x0607AF;
-constexpr uint32_t kCoreVersion = 1;
+constexpr uint32_t CoreProgram = 0x0607AF;
+constexpr uint32_t CoreVersion = 1;
 enum Procedure : uint32_t {
     CreateLink = 10,
     DeviceWrite = 11,
@@ -25,15 +25,15 @@ enum Procedure : uint32_t {
     DeviceClear = 15,
     DestroyLink = 23
 };
-constexpr uint32_t kFlagEnd = 0x08;
-constexpr uint32_t kFlagTermChar = 0x80;
-constexpr uint32_t kReasonEnd = 4;
-constexpr uint32_t kMinimumRecvSize = 1024;
+constexpr uint32_t FlagEnd = 0x08;
+constexpr uint32_t FlagTermChar = 0x80;
+constexpr uint32_t ReasonEnd = 4;
+constexpr uint32_t MinimumRecvSize = 1024;
 // A device answers a timed-out call itself; this is how much later we give up on it.
-constexpr uint32_t kReplyGraceMs = 2000;
-constexpr uint32_t kDestroyTimeoutMs = 1000;
+constexpr uint32_t ReplyGraceMs = 2000;
+constexpr uint32_t DestroyTimeoutMs = 1000;
 // Largest single device_read request; the reply has to fit one RPC record.
-constexpr size_t kMaxReadRequest = 1u << 20;
+constexpr size_t MaxReadRequest = 1u << 20;
 
 ViStatus statusOfDeviceError(uint32_t error)
 {
@@ -51,12 +51,12 @@ uint16_t portmapperPort()
 {
     const char* text = std::getenv("SELVANE_PORTMAPPER_PORT");
     const long port = text ? std::strtol(text, nullptr, 10) : 0;
-    return port > 0 && port <= 0xFFFF ? uint16_t(port) : kPortmapperPort;
+    return port > 0 && port <= 0xFFFF ? uint16_t(port) : PortmapperPort;
 }
 
 Deadline replyDeadline(const Deadline& deadline)
 {
-    return Deadline(deadline.infinite() ? 0xFFFFFFFFu : deadline.remainingMs() + kReplyGraceMs);
+    return Deadline(deadline.infinite() ? 0xFFFFFFFFu : deadline.remainingMs() + ReplyGraceMs);
 }
 
 class Vxi11Backend : public Backend {
@@ -88,7 +88,7 @@ class Vxi11Backend : public Backend {
     RpcClient client_;
     uint32_t link_ = 0;
     bool linked_ = false;
-    size_t maxRecvSize_ = kMinimumRecvSize;
+    size_t maxRecvSize_ = MinimumRecvSize;
     bool sendEnd_ = true;
 };
 
@@ -96,7 +96,7 @@ Vxi11Backend::~Vxi11Backend()
 {
     if (!linked_) return;
     std::vector<uint8_t> results;
-    client_.call(kCoreProgram, kCoreVersion, DestroyLink, XdrWriter().u32(link_), Deadline(kDestroyTimeoutMs),
+    client_.call(CoreProgram, CoreVersion, DestroyLink, XdrWriter().u32(link_), Deadline(DestroyTimeoutMs),
                  results);
 }
 
@@ -104,7 +104,7 @@ ViStatus Vxi11Backend::call(uint32_t procedure, const XdrWriter& arguments, cons
                             std::vector<uint8_t>& results, XdrReader& reader)
 {
     if (const ViStatus status =
-            client_.call(kCoreProgram, kCoreVersion, procedure, arguments, replyDeadline(deadline), results);
+            client_.call(CoreProgram, CoreVersion, procedure, arguments, replyDeadline(deadline), results);
         status != VI_SUCCESS)
         return status;
     reader = XdrReader(results.data(), results.size());
@@ -118,14 +118,14 @@ ViStatus Vxi11Backend::createLink(const std::string& device)
     arguments.u32(uint32_t(reinterpret_cast<uintptr_t>(this))).u32(0).u32(0).string(device);
     std::vector<uint8_t> results;
     XdrReader reader(nullptr, 0);
-    if (call(CreateLink, arguments, Deadline(kConnectTimeoutMs), results, reader) != VI_SUCCESS)
+    if (call(CreateLink, arguments, Deadline(ConnectTimeoutMs), results, reader) != VI_SUCCESS)
         return VI_ERROR_RSRC_NFOUND;
     link_ = reader.u32();
     reader.u32(); // abort port
     const uint32_t maxRecvSize = reader.u32();
     if (!reader.ok()) return VI_ERROR_RSRC_NFOUND;
     linked_ = true;
-    maxRecvSize_ = std::max(maxRecvSize, kMinimumRecvSize);
+    maxRecvSize_ = std::max(maxRecvSize, MinimumRecvSize);
     return VI_SUCCESS;
 }
 
@@ -133,7 +133,7 @@ ViStatus Vxi11Backend::writePiece(const uint8_t* data, size_t size, bool last, c
                                   size_t& accepted)
 {
     XdrWriter arguments;
-    arguments.u32(link_).u32(deadline.remainingMs()).u32(0).u32(last ? kFlagEnd : 0).opaque(data, size);
+    arguments.u32(link_).u32(deadline.remainingMs()).u32(0).u32(last ? FlagEnd : 0).opaque(data, size);
     std::vector<uint8_t> results;
     XdrReader reader(nullptr, 0);
     const ViStatus status = call(DeviceWrite, arguments, deadline, results, reader);
@@ -161,15 +161,15 @@ ViStatus Vxi11Backend::fetch(size_t wanted, const ReadSettings& settings, const 
                              InputQueue& queue)
 {
     XdrWriter arguments;
-    arguments.u32(link_).u32(uint32_t(std::min(wanted, kMaxReadRequest))).u32(deadline.remainingMs()).u32(0);
-    arguments.u32(settings.termCharEnabled ? kFlagTermChar : 0).u32(settings.termChar);
+    arguments.u32(link_).u32(uint32_t(std::min(wanted, MaxReadRequest))).u32(deadline.remainingMs()).u32(0);
+    arguments.u32(settings.termCharEnabled ? FlagTermChar : 0).u32(settings.termChar);
     std::vector<uint8_t> results;
     XdrReader reader(nullptr, 0);
     const ViStatus status = call(DeviceRead, arguments, deadline, results, reader);
     const uint32_t reason = reader.u32();
-    const std::vector<uint8_t> data = reader.opaque(kMaxReadRequest);
+    const std::vector<uint8_t> data = reader.opaque(MaxReadRequest);
     if (!reader.ok()) return status == VI_SUCCESS ? VI_ERROR_IO : status;
-    queue.push(data.data(), data.size(), (reason & kReasonEnd) != 0);
+    queue.push(data.data(), data.size(), (reason & ReasonEnd) != 0);
     return status;
 }
 
@@ -209,7 +209,7 @@ std::unique_ptr<Backend> openVxi11Backend(const ResourceName& name, const Sessio
                                           ViStatus& status)
 {
     uint16_t port = 0;
-    status = portmapperGetPort(name.host, portmapperPort(), kCoreProgram, kCoreVersion, port);
+    status = portmapperGetPort(name.host, portmapperPort(), CoreProgram, CoreVersion, port);
     FdChannel channel;
     if (status == VI_SUCCESS) status = connectTcp(name.host, port, channel);
     if (status != VI_SUCCESS) return nullptr;

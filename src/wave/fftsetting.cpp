@@ -12,8 +12,8 @@ std::array<FftPlaceholder, 18> FftPlaceholders;
 
 namespace {
 
-const QString channel1 = QStringLiteral("CH1");
-const QString channel2 = QStringLiteral("CH2");
+const QString Channel1Source = QStringLiteral("CH1");
+const QString Channel2Source = QStringLiteral("CH2");
 constexpr int VrmsMeasure = 5;
 
 } // namespace
@@ -60,9 +60,9 @@ FftTarget ChooseFftTarget(const QString& title)
         target.okEnabled = record.HasData;
         if (!record.HasData) return target;
         switch (record.LastChannel) {
-        case 1: target.sources = QStringList{channel1}; break;
-        case 2: target.sources = QStringList{channel2}; break;
-        case 3: target.sources = QStringList{channel1, channel2}; break;
+        case 1: target.sources = QStringList{Channel1Source}; break;
+        case 2: target.sources = QStringList{Channel2Source}; break;
+        case 3: target.sources = QStringList{Channel1Source, Channel2Source}; break;
         case 4: target.disablesSource = true; break;
         default: break;
         }

@@ -77,8 +77,8 @@ frmWave::frmWave(int slot, QWidget* parent) : QWidget(parent), slot_(validSlot(s
     connect(&ReadingNotifier(), &ReadingEvents::waveReadingEnded, this, [this](int slot) {
         if (WaveWindowOf(slot) == this) ShowRefreshProgress(false);
     });
-    connect(&ReadingNotifier(), &ReadingEvents::progressPercentChanged, this, [this] {
-        if (WaveWindowOf(CurrentWaveIndex) == this) ShowRefreshPercent(ProgressPercent);
+    connect(&ReadingNotifier(), &ReadingEvents::progressPercentChanged, this, [this](int slot) {
+        if (WaveWindowOf(slot) == this) ShowRefreshPercent(ProgressPercent);
     });
     SetCaptions(Language);
     Form_Load();

@@ -5,8 +5,8 @@
 #include "acquire/frmPrgress.h"
 #include "acquire/operation.h"
 #include "acquire/waverecord.h"
-#include "platform/platform.h"
 #include "document/sheetstate.h"
+#include "platform/platform.h"
 #include "text/language.h"
 #include "wave/refreshloop.h"
 #include "wave/waverefresh.h"
@@ -52,10 +52,9 @@ void frmWave::LoadData()
     const WaveRecord& r = record();
     if (!r.ShowCH1 && !r.ShowCH2 && !r.ShowCH3 && !r.ShowCH4) return;
     QPointer<frmWave> alive(this);
-    CurrentWaveIndex = slot_;
     ProgressPercent = 1;
     ShowRefreshProgress(true);
-    const bool ran = frmPrgress::RunReading(OperationWaveWindow, caption, this);
+    const bool ran = frmPrgress::RunReading({OperationWaveWindow, slot_}, caption, this);
     if (!alive) return;
     ShowRefreshProgress(false);
     if (!ran) return;

@@ -12,7 +12,7 @@
 
 namespace {
 
-const QString printImageName = QStringLiteral("$Print.bmp");
+const QString PrintImageName = QStringLiteral("$Print.bmp");
 
 QRectF toDots(const QRectF& inches, double dotsPerInch)
 {
@@ -45,10 +45,10 @@ void PaintPicturePage(QPainter& painter, double dotsPerInch, const PicturePage& 
 QString PrintImagePath()
 {
     const QString programDir = QCoreApplication::applicationDirPath();
-    if (QFileInfo(programDir).isWritable()) return QDir(programDir).filePath(printImageName);
+    if (QFileInfo(programDir).isWritable()) return QDir(programDir).filePath(PrintImageName);
     const QString dataDir = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(dataDir);
-    return QDir(dataDir).filePath(printImageName);
+    return QDir(dataDir).filePath(PrintImageName);
 }
 
 bool SavePrintImage(const QImage& image)

@@ -25,7 +25,6 @@ class ProgressTick : public ReadingTest, public ::testing::WithParamInterface<Ti
 TEST_P(ProgressTick, GrowsThePercentUpToTheBaseAndHundred)
 {
     const TickCase& c = GetParam();
-    OperationCode = c.code;
     OperationRunning = c.running;
     ProgressStep = int16_t(c.step);
     ProgressPercent = int16_t(c.percent);
@@ -34,9 +33,9 @@ TEST_P(ProgressTick, GrowsThePercentUpToTheBaseAndHundred)
     int told = 0;
     QObject listener;
     QObject::connect(&ReadingNotifier(), &ReadingEvents::progressPercentChanged, &listener,
-                     [&told] { ++told; });
+                     [&told](int slot) { told += slot == 2 ? 1 : 100; });
 
-    ProgressTimerTick();
+    ProgressTimerTick({c.code, 2});
 
     EXPECT_EQ(ProgressPercent, c.percentAfter);
     EXPECT_EQ(Progress().barValue(), std::min(98.0 + c.step, 100.0)) << "the bar stops at its maximum";
@@ -57,20 +56,22 @@ TEST_F(ReadingFrame, RunsTheInstalledRoutineAndClosesEvenOnItsErrorPath)
     for (const bool finished : {true, false}) {
         platform->clearRecords();
         bool busyInside = false;
-        SetOperationRoutine(OperationWaveWindow, [&] {
+        int slotGiven = -1;
+        SetOperationRoutine(OperationWaveWindow, [&](const Operation& reading) {
             busyInside = LinkBusy && OperationRunning;
+            slotGiven = reading.slot;
             return finished;
         });
         int endedSlot = -1;
         QObject listener;
         QObject::connect(&ReadingNotifier(), &ReadingEvents::waveReadingEnded, &listener,
                          [&endedSlot](int slot) { endedSlot = slot; });
-        CurrentWaveIndex = 7;
-
-        RunReadingFrame(OperationWaveWindow);
+        RunReadingFrame({OperationWaveWindow, 7});
         SetOperationRoutine(OperationWaveWindow, nullptr);
 
         EXPECT_TRUE(busyInside);
+        EXPECT_EQ(slotGiven, 7);
+        EXPECT_EQ(CurrentWaveIndex, 7) << "kept as the record of what ran";
         EXPECT_TRUE(OperationDone);
         EXPECT_FALSE(OperationRunning);
         EXPECT_FALSE(LinkBusy);
@@ -82,8 +83,8 @@ TEST_F(ReadingFrame, RunsTheInstalledRoutineAndClosesEvenOnItsErrorPath)
 
 TEST_F(ReadingFrame, UnknownCodeDoesNothingButClose)
 {
-    EXPECT_FALSE(RunOperation(42));
-    RunReadingFrame(42);
+    EXPECT_FALSE(RunOperation({42}));
+    RunReadingFrame({42});
     EXPECT_TRUE(OperationDone);
     EXPECT_EQ(visa->commands(), std::vector<std::string>{":TRIGGER:STATUS?"});
 }
@@ -112,7 +113,7 @@ TEST_F(ReadingFrame, WaveWindowClipsChannelsNotXy)
     answer(":WAVEFORM:SCREENDATA? CHANNEL1", Block(std::string("\x05\xFA\x64", 3)));
     WaveRecords[0].ShowCH1 = true;
 
-    RunReadingFrame(OperationWaveWindow);
+    RunReadingFrame({OperationWaveWindow});
 
     const WaveArray& wave = WaveRecords[0].WaveCH1;
     ASSERT_EQ(wave.size(), 2049u);
@@ -125,7 +126,7 @@ TEST_F(ReadingFrame, WaveWindowClipsChannelsNotXy)
     visa->writes.clear();
     answer(":TIMEBASE:FORMAT?", "X-Y\n");
     answer(":WAVEFORM:DATA? XY", Block(std::string("\xFA\x05", 2)));
-    RunReadingFrame(OperationWaveWindow);
+    RunReadingFrame({OperationWaveWindow});
     EXPECT_EQ(WaveRecords[0].WaveCH1[1], 250) << "X-Y codes are not clipped";
     EXPECT_EQ(WaveRecords[0].WaveCH2[1], 5);
     const std::vector<std::string> sent = visa->commands();
@@ -134,7 +135,7 @@ TEST_F(ReadingFrame, WaveWindowClipsChannelsNotXy)
 
 TEST_F(ReadingFrame, WindowWithNoChannelReadsNoBlock)
 {
-    RunReadingFrame(OperationWaveWindow);
+    RunReadingFrame({OperationWaveWindow});
 
     EXPECT_TRUE(OperationDone);
     for (const std::string& write : visa->writes)

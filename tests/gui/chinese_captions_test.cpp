@@ -98,7 +98,8 @@ INSTANTIATE_TEST_SUITE_P(
         WindowCase{"DlgResource", plain<frmDlgResource>()},
         WindowCase{"DataSheetTree", plain<frmDataSheetTree>()}, WindowCase{"NewDoc", plain<frmNewDoc>()},
         WindowCase{"OpenDoc", plain<frmOpenDoc>()}, WindowCase{"About", plain<frmAbout>()},
-        WindowCase{"Pattern", plain<PatternDlg>()}, WindowCase{"Progress", plain<frmPrgress>()}),
+        WindowCase{"Pattern", plain<PatternDlg>()},
+        WindowCase{"Progress", [](QMdiArea&) -> QWidget* { return new frmPrgress({OperationUpload}); }}),
     [](const auto& info) { return std::string(info.param.name); });
 
 // The table windows' buttons take their lists' captions, tooltips included.

@@ -1,13 +1,10 @@
 // The reading window: it refuses to close while its operation runs, runs the
-// operation once from Timer1, and ends the caller's wait.
-#include "fakeinstrument.h"
-
+// operation it was given once from Timer1, and ends the caller's wait.
 #include "acquire/frmPrgress.h"
 #include "acquire/operation.h"
-#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
-#include "state/programstate.h"
-#include "platform/testplatform.h"
+#include "settings/softwaresettings.h"
+#include "support/fakevisa.h"
 
 #include <QApplication>
 #include <QProgressBar>
@@ -18,27 +15,15 @@ namespace {
 
 constexpr int AnOperation = 22;
 
-class ProgressWindow : public ::testing::Test {
+class ProgressWindow : public FakeVisaTest {
   protected:
-    ProgressWindow()
-    {
-        ResetProgramState();
-        Connected = true;
-        VisaSession = FakeInstrument::sessionId;
-    }
-    ~ProgressWindow() override
-    {
-        SetOperationRoutine(AnOperation, nullptr);
-        ResetProgramState();
-    }
-
-    ScopedTestPlatform platform;
-    ScopedFakeInstrument instrument;
+    ProgressWindow() { connectOverVisa(); }
+    ~ProgressWindow() override { SetOperationRoutine(AnOperation, nullptr); }
 };
 
 TEST_F(ProgressWindow, RefusesToCloseWhileRunning)
 {
-    frmPrgress window;
+    frmPrgress window({AnOperation});
     window.show();
     ASSERT_TRUE(OperationRunning);
     EXPECT_TRUE(LinkBusy);
@@ -58,9 +43,11 @@ TEST_F(ProgressWindow, RefusesToCloseWhileRunning)
 TEST_F(ProgressWindow, RunsTheOperationOnceAndEndsTheWait)
 {
     int runs = 0;
+    Operation given;
     bool closeRefused = false;
-    SetOperationRoutine(AnOperation, [&] {
+    SetOperationRoutine(AnOperation, [&](const Operation& operation) {
         ++runs;
+        given = operation;
         for (QWidget* widget : QApplication::topLevelWidgets())
             if (auto* window = qobject_cast<frmPrgress*>(widget); window && window->isVisible())
                 closeRefused = !window->close();
@@ -68,29 +55,30 @@ TEST_F(ProgressWindow, RunsTheOperationOnceAndEndsTheWait)
     });
     SaveSetting("Settings_KV7200B", "ProgressLeft", "-3000");
 
-    EXPECT_TRUE(frmPrgress::RunReading(AnOperation, "Data Uploading..."));
+    EXPECT_TRUE(frmPrgress::RunReading({AnOperation, 5}, "Data Uploading..."));
 
     EXPECT_EQ(runs, 1);
+    EXPECT_EQ(given.slot, 5) << "the window hands the routine its target";
     EXPECT_TRUE(closeRefused);
     EXPECT_TRUE(OperationDone);
     EXPECT_FALSE(OperationRunning);
     EXPECT_FALSE(LinkBusy);
-    EXPECT_EQ(instrument->written.first(), ":TRIGGER:STATUS?");
+    EXPECT_EQ(visa->commands().front(), ":TRIGGER:STATUS?");
     EXPECT_TRUE(platform->sleeps.contains(ReadingEndPauseMs));
     EXPECT_EQ(GetSetting("Settings_KV7200B", "ProgressLeft"), "400") << "an off-screen corner is put back";
 }
 
 TEST_F(ProgressWindow, DoesNothingWithoutLinkOrWhileRunning)
 {
-    SetOperationRoutine(AnOperation, [] {
+    SetOperationRoutine(AnOperation, [](const Operation&) {
         ADD_FAILURE() << "no operation may run";
         return true;
     });
     Connected = false;
-    EXPECT_FALSE(frmPrgress::RunReading(AnOperation, QString()));
+    EXPECT_FALSE(frmPrgress::RunReading({AnOperation}, QString()));
     Connected = true;
     OperationRunning = true;
-    EXPECT_FALSE(frmPrgress::RunReading(AnOperation, QString()));
+    EXPECT_FALSE(frmPrgress::RunReading({AnOperation}, QString()));
 }
 
 } // namespace

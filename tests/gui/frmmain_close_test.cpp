@@ -1,8 +1,8 @@
 #include "mainwindowfixture.h"
 
 #include "controller/ctrlstate.h"
-#include "link/linkstate.h"
 #include "document/sheetstate.h"
+#include "link/linkstate.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ TEST_F(CloseTest, CancelInTheSheetBoxKeepsTheProgramAndWritesNothing)
     EXPECT_EQ(test->boxes[0].text, "Save the changes to the Data Sheet File? Bench run");
     EXPECT_EQ(test->boxes[0].style, vbYesNoCancel);
     EXPECT_EQ(storedSettingCount(), 0);
-    EXPECT_EQ(instrument->managerCloses, 0);
+    EXPECT_EQ(instrument->countOf("close 11"), 0);
 }
 
 TEST_F(CloseTest, CancelInTheControlFileBoxKeepsTheProgramAndWritesNothing)
@@ -65,8 +65,8 @@ TEST_F(CloseTest, AnsweringGoesOnToSaveTheSettingsAndCloseVisa)
     EXPECT_EQ(test->boxes.size(), 2);
     EXPECT_EQ(GetSetting("IO Settings_KV7200B", "BaudRate"), "9600");
     EXPECT_EQ(GetSetting("Settings_KV7200B", "MainWidth"), QString::number(window->width() * 15));
-    EXPECT_EQ(instrument->managerCloses, 1);
-    EXPECT_TRUE(instrument->written.isEmpty()) << "nothing is told to an instrument that is not connected";
+    EXPECT_EQ(instrument->countOf("close 11"), 1);
+    EXPECT_TRUE(instrument->writes.empty()) << "nothing is told to an instrument that is not connected";
 }
 
 TEST_F(CloseTest, AConnectedInstrumentGetsItsKeysBackAndItsSessionClosed)
@@ -74,12 +74,12 @@ TEST_F(CloseTest, AConnectedInstrumentGetsItsKeysBackAndItsSessionClosed)
     instrument->resources = {"USB0::0x1::0x2::SN::INSTR"};
     find("mnuToolsConnect")->trigger();
     ASSERT_TRUE(Connected);
-    instrument->written.clear();
+    instrument->writes.clear();
     EXPECT_TRUE(window->close());
-    EXPECT_EQ(instrument->written, QStringList({":KEY:LOCK DISABLE"}));
-    EXPECT_EQ(instrument->clears, 1);
-    EXPECT_EQ(instrument->sessionCloses, 1);
-    EXPECT_EQ(instrument->managerCloses, 1);
+    EXPECT_EQ(instrument->commands(), std::vector<std::string>{":KEY:LOCK DISABLE"});
+    EXPECT_EQ(instrument->countOf("clear "), 1);
+    EXPECT_EQ(instrument->countOf("close 22"), 1);
+    EXPECT_EQ(instrument->countOf("close 11"), 1);
 }
 
 } // namespace

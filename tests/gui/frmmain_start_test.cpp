@@ -1,10 +1,10 @@
 #include "mainwindowfixture.h"
 
 #include "frame/frmStartup.h"
-#include "text/language.h"
 #include "frame/recentfiles.h"
 #include "link/linkstate.h"
 #include "link/resourcechooser.h"
+#include "text/language.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -47,7 +47,7 @@ TEST_F(MainWindowTest, WithoutTheCheckNothingIsOpened)
     instrument->resources = {"USB0::0x1::0x2::SN::INSTR"};
     load();
     EXPECT_FALSE(Connected);
-    EXPECT_TRUE(instrument->written.isEmpty());
+    EXPECT_TRUE(instrument->writes.empty());
 }
 
 TEST_F(MainWindowTest, TheWindowTakesItsPlaceFromTheSettingsInTwips)

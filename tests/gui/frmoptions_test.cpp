@@ -1,4 +1,3 @@
-#include "fakeinstrument.h"
 #include "frame/frmOptions.h"
 #include "link/connection.h"
 #include "link/linkstate.h"
@@ -6,6 +5,7 @@
 #include "platform/testplatform.h"
 #include "settings/softwaresettings.h"
 #include "state/programstate.h"
+#include "support/fakevisa.h"
 #include "text/language.h"
 
 #include <QCheckBox>
@@ -44,15 +44,16 @@ class OptionsTest : public ::testing::Test {
 
     void connectInstrument()
     {
-        instrument->resources = {usbDevice};
+        instrument->resources = {usbDevice.toStdString()};
+        instrument->replies["*IDN?"] = FakeVisa::SupportedIdentity;
         OpenVisaRM();
         ConnectDevice();
         ASSERT_TRUE(Connected);
-        instrument->written.clear();
+        instrument->writes.clear();
     }
 
     ScopedTestPlatform test;
-    ScopedFakeInstrument instrument;
+    ScopedFakeVisa instrument;
     std::unique_ptr<frmOptions> dialog;
 };
 
@@ -102,10 +103,11 @@ TEST_F(OptionsTest, NoDeviceIsSaidInTheLanguageInForce)
 
 TEST_F(OptionsTest, DevicesAreListedShortAndChosenInFull)
 {
-    instrument->resources = {"USB0::0x1::0x2::A::INSTR", usbDevice};
+    instrument->resources = {"USB0::0x1::0x2::A::INSTR", usbDevice.toStdString()};
     OpenVisaRM();
     open();
-    EXPECT_EQ(instrument->patterns, QStringList({"USB?*INSTR"}));
+    EXPECT_EQ(instrument->countOf("findRsrc "), 1);
+    EXPECT_EQ(instrument->countOf("findRsrc USB?*INSTR"), 1);
     ASSERT_EQ(combo("DeviceCombo")->count(), 2);
     EXPECT_EQ(combo("DeviceCombo")->itemText(1), "0x5345 0x1234 KV72040001");
     combo("DeviceCombo")->setCurrentIndex(1);
@@ -154,7 +156,7 @@ TEST_F(OptionsTest, ANewBaudRateIsToldFirstThenTheLinkCloses)
     open();
     combo("BaudCombo")->setCurrentText("38400");
     click("cmdOK");
-    EXPECT_EQ(instrument->written, QStringList({":RS232:BAUD 38400", ":KEY:LOCK DISABLE"}));
+    EXPECT_EQ(instrument->commands(), (std::vector<std::string>{":RS232:BAUD 38400", ":KEY:LOCK DISABLE"}));
     EXPECT_FALSE(Connected);
     EXPECT_EQ(BaudRate, "38400");
 }
@@ -164,7 +166,7 @@ TEST_F(OptionsTest, AnUnchangedBaudRateSendsNoCommandButTheLinkStillCloses)
     connectInstrument();
     open();
     click("cmdOK");
-    EXPECT_EQ(instrument->written, QStringList({":KEY:LOCK DISABLE"}));
+    EXPECT_EQ(instrument->commands(), std::vector<std::string>{":KEY:LOCK DISABLE"});
     EXPECT_FALSE(Connected);
 }
 

@@ -37,10 +37,10 @@ struct ReadingCounter {
 
     ReadingCounter()
     {
-        SetOperationRoutine(OperationWaveWindow, [this] {
+        SetOperationRoutine(OperationWaveWindow, [this](const Operation& reading) {
             ++started;
             mostAtOnce = std::max(mostAtOnce, ++running);
-            const bool done = ReadWaveWindow();
+            const bool done = ReadWaveWindow(reading.slot);
             --running;
             return done;
         });

@@ -2,10 +2,10 @@
 // A loaded main window on the recording platform, with a scripted instrument
 // (no resources unless a test lists some) in place of the VISA library.
 
-#include "fakeinstrument.h"
 #include "frame/frmMain.h"
-#include "state/programstate.h"
 #include "platform/testplatform.h"
+#include "state/programstate.h"
+#include "support/fakevisa.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -17,7 +17,11 @@
 
 class MainWindowTest : public ::testing::Test {
   protected:
-    void SetUp() override { ResetProgramState(); }
+    void SetUp() override
+    {
+        ResetProgramState();
+        instrument->replies["*IDN?"] = FakeVisa::SupportedIdentity;
+    }
     void TearDown() override
     {
         window.reset();
@@ -50,6 +54,6 @@ class MainWindowTest : public ::testing::Test {
     int storedSettingCount() const;
 
     ScopedTestPlatform test;
-    ScopedFakeInstrument instrument;
+    ScopedFakeVisa instrument;
     std::unique_ptr<frmMain> window;
 };

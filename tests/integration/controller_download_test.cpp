@@ -22,7 +22,7 @@ class DownloadTest : public SimReadingTest {
     void download()
     {
         InstallDownloadOperation();
-        RunReadingFrame(OperationDownload);
+        RunReadingFrame({OperationDownload});
         AfterDownload();
     }
     // What the simulator logged from the first query of the download on.

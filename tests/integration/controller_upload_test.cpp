@@ -36,7 +36,7 @@ class UploadTest : public SimReadingTest {
         const QStringList logged = link->loggedCommands();
         BeforeUpload();
         InstallUploadOperation();
-        RunReadingFrame(OperationUpload);
+        RunReadingFrame({OperationUpload});
         EXPECT_TRUE(link->waitForLogged(last, int(logged.count(last)) + 1));
         const qsizetype before = logged.size();
         return link->loggedEntries().mid(before);
@@ -159,7 +159,7 @@ TEST_F(UploadTest, DownloadAfterUploadGivesBackWhatTheInstrumentKeeps)
     EXPECT_TRUE(commands.contains(":CHANNEL2:OFFSET  -1"));
 
     InstallDownloadOperation();
-    RunReadingFrame(OperationDownload);
+    RunReadingFrame({OperationDownload});
     const std::pair<QString, QString> fields[] = {
         {r.RunStop, sent.RunStop},           {r.TimeDiv, sent.TimeDiv},
         {r.TimeDelay, sent.TimeDelay},       {r.ChProbe[2], sent.ChProbe[2]},

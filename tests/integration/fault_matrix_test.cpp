@@ -29,20 +29,19 @@ struct Transfer {
 const Transfer Transfers[] = {
     {"Wave",
      [] {
-         CurrentWaveIndex = 3;
          WaveRecords[3].setShowChannel(1, true);
-         RunReadingFrame(OperationWaveWindow);
+         RunReadingFrame({OperationWaveWindow, 3});
      }},
-    {"Table", [] { RunReadingFrame(OperationTableCH1); }},
+    {"Table", [] { RunReadingFrame({OperationTableCH1}); }},
     {"Measure",
      [] {
          InstallMeasureOperations();
-         RunReadingFrame(OperationMeasureCH1);
+         RunReadingFrame({OperationMeasureCH1});
      }},
     {"Download",
      [] {
          InstallDownloadOperation();
-         RunReadingFrame(OperationDownload);
+         RunReadingFrame({OperationDownload});
          AfterDownload();
      }},
     {"Upload",
@@ -50,7 +49,7 @@ const Transfer Transfers[] = {
          ASSERT_TRUE(ReadCtrlFile(QStringLiteral(SELVANE_TEST_DATA "/controller/data/golden.rmt")));
          BeforeUpload();
          InstallUploadOperation();
-         RunReadingFrame(OperationUpload);
+         RunReadingFrame({OperationUpload});
      }},
 };
 

@@ -26,14 +26,14 @@ TEST_F(Reconnect, AfterTheSimulatorIsKilledARestartedOneConnectsAndReadsAgain)
     const QString resource = ResourceName;
     const quint16 socketPort = sim->port("socket");
     send(":STOP");
-    RunReadingFrame(OperationTableCH1);
+    RunReadingFrame({OperationTableCH1});
     ASSERT_EQ(WaveCount, 600);
     const QString header = DataHeaderText;
     const QString lastValue = DataValueText[600];
 
     sim->process().kill();
     sim->process().waitForFinished(5000);
-    RunReadingFrame(OperationTableCH1);
+    RunReadingFrame({OperationTableCH1});
     for (int i = 0; i < 3 && Connected; ++i)
         AskCmd("*IDN?");
     EXPECT_FALSE(Connected);
@@ -53,7 +53,7 @@ TEST_F(Reconnect, AfterTheSimulatorIsKilledARestartedOneConnectsAndReadsAgain)
     EXPECT_EQ(AskCmd("*IDN?").trimmed(), QString(SupportedIdentity));
     send(":STOP");
     DataHeaderText.clear();
-    RunReadingFrame(OperationTableCH1);
+    RunReadingFrame({OperationTableCH1});
     EXPECT_EQ(WaveCount, 600);
     EXPECT_TRUE(DataHeaderText.startsWith("CH1 ")) << DataHeaderText.toStdString();
     EXPECT_TRUE(Connected);

@@ -31,7 +31,7 @@ class MeasureReading : public SimReadingTest {
     {
         const qsizetype before = link->loggedCommands().size();
         platform->clearRecords();
-        RunReadingFrame(OperationMeasureCH1 + channel - 1);
+        RunReadingFrame({OperationMeasureCH1 + channel - 1});
         TakeMeasureReading(record, channel);
         const QStringList all = link->loggedCommands();
         return all.mid(before);

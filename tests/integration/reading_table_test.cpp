@@ -23,7 +23,7 @@ class TableReadingTest : public SimReadingTest {
 
 TEST_F(TableReadingTest, ColumnsHoldTimesAndVoltsOfTheChannel)
 {
-    RunReadingFrame(OperationTableCH1);
+    RunReadingFrame({OperationTableCH1});
 
     const std::vector<int> codes = CodesOf(askBlock(":WAVEFORM:SCREENDATA? CHANNEL1"));
     ASSERT_EQ(codes.size(), 600u);
@@ -54,7 +54,7 @@ TEST_F(TableReadingTest, PeakDetectSplitsTheValuesInTwoColumns)
 {
     WriteCmd(":ACQUIRE:TYPE PEAKDETECT");
     send(":STOP");
-    RunReadingFrame(OperationTableCH1 + 1);
+    RunReadingFrame({OperationTableCH1 + 1});
 
     const std::vector<int> codes = CodesOf(askBlock(":WAVEFORM:SCREENDATA? CHANNEL2"));
     ASSERT_EQ(codes.size(), 1200u);
@@ -70,7 +70,7 @@ TEST_F(TableReadingTest, PeakDetectSplitsTheValuesInTwoColumns)
 
 TEST_F(TableReadingTest, ChannelOffAtStopGivesOnlyTheHeader)
 {
-    RunReadingFrame(OperationTableCH1 + 2);
+    RunReadingFrame({OperationTableCH1 + 2});
 
     EXPECT_EQ(WaveCount, 0);
     EXPECT_TRUE(DataHeaderText.startsWith("CH3 ")) << DataHeaderText.toStdString();

@@ -17,11 +17,10 @@ namespace {
 
 WaveRecord& readWindow(std::initializer_list<int> channels)
 {
-    CurrentWaveIndex = 3;
     WaveRecord& record = WaveRecords[3];
     for (const int n : channels)
         record.setShowChannel(n, true);
-    RunReadingFrame(OperationWaveWindow);
+    RunReadingFrame({OperationWaveWindow, 3});
     return record;
 }
 
@@ -157,9 +156,8 @@ TEST_F(WaveReadingSerial, BringsNothingAndEnds)
 {
     ASSERT_TRUE(startSim());
     ASSERT_TRUE(connectOverSerial());
-    CurrentWaveIndex = 0;
     WaveRecords[0].ShowCH1 = true;
-    RunReadingFrame(OperationWaveWindow);
+    RunReadingFrame({OperationWaveWindow, 0});
 
     EXPECT_TRUE(OperationDone);
     EXPECT_FALSE(LinkBusy);

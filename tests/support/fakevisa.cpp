@@ -126,19 +126,27 @@ int FakeVisa::countOf(const std::string& call) const
                              [&](const std::string& made) { return made.rfind(call, 0) == 0; }));
 }
 
+ScopedFakeVisa::ScopedFakeVisa()
+{
+    auto fake = std::make_unique<FakeVisa>();
+    fake_ = fake.get();
+    previous_ = InstallVisaLibrary(std::move(fake));
+}
+
+ScopedFakeVisa::~ScopedFakeVisa()
+{
+    InstallVisaLibrary(std::move(previous_));
+}
+
 FakeVisaTest::FakeVisaTest()
 {
     ResetProgramState();
-    auto fake = std::make_unique<FakeVisa>();
-    visa = fake.get();
-    previous_ = InstallVisaLibrary(std::move(fake));
     OpenVisaRM();
     visa->calls.clear();
 }
 
 FakeVisaTest::~FakeVisaTest()
 {
-    InstallVisaLibrary(std::move(previous_));
     InstallResourceChooser({});
     ResetProgramState();
 }

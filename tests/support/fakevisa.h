@@ -1,7 +1,8 @@
 #pragma once
-// A scripted VISA library for unit tests: a list of resources, an instrument that
-// answers known commands, forced statuses, and a record of every call and write.
-// FakeVisaTest puts it in place of the real library over a fresh program state.
+// A scripted VISA library for unit and window tests: a list of resources, an
+// instrument that answers known commands, forced statuses, and a record of every
+// call and write. ScopedFakeVisa puts it in place of the real library;
+// FakeVisaTest does so over a fresh program state.
 
 #include "link/visalibrary.h"
 #include "platform/testplatform.h"
@@ -19,6 +20,8 @@ class FakeVisa : public VisaLibrary {
     static constexpr ViSession Manager = 11;
     static constexpr ViSession Session = 22;
     static constexpr ViFindList FindList = 33;
+    // An identity a connect accepts: maker, a supported model, firmware recent enough.
+    static constexpr const char* SupportedIdentity = "Korva Technologies,KV7204B,SN0001,00.03.05.00.00\n";
 
     std::vector<std::string> resources;         // what the find lists
     std::map<std::string, std::string> replies; // command without its line feed -> reply bytes
@@ -52,6 +55,21 @@ class FakeVisa : public VisaLibrary {
     size_t nextFound_ = 1;
 };
 
+// A FakeVisa in place of the VISA library for the object's lifetime.
+class ScopedFakeVisa {
+  public:
+    ScopedFakeVisa();
+    ~ScopedFakeVisa();
+    ScopedFakeVisa(const ScopedFakeVisa&) = delete;
+    ScopedFakeVisa& operator=(const ScopedFakeVisa&) = delete;
+    FakeVisa* operator->() const { return fake_; }
+    FakeVisa* get() const { return fake_; }
+
+  private:
+    FakeVisa* fake_;
+    std::unique_ptr<VisaLibrary> previous_;
+};
+
 // A fresh program state, a recording platform and the fake in place of the VISA
 // library, its resource manager open; everything is put back after.
 class FakeVisaTest : public ::testing::Test {
@@ -64,8 +82,6 @@ class FakeVisaTest : public ::testing::Test {
     QStringList boxTexts() const;
 
     ScopedTestPlatform platform;
-    FakeVisa* visa = nullptr;
-
-  private:
-    std::unique_ptr<VisaLibrary> previous_;
+    ScopedFakeVisa installed;
+    FakeVisa* visa = installed.get();
 };
