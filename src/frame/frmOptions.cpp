@@ -1,10 +1,11 @@
 #include "frame/frmOptions.h"
 
+#include "document/programiconwidgets.h"
+#include "frame/optionschoice.h"
+#include "link/linkstate.h"
+#include "settings/softwaresettings.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
-#include "frame/optionschoice.h"
-#include "settings/softwaresettings.h"
-#include "link/linkstate.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -63,6 +64,7 @@ const QString noDeviceChinese = QStringLiteral("无设备");
 frmOptions::frmOptions(QWidget* parent) : QDialog(parent)
 {
     setObjectName("frmOptions");
+    SetWindowPicture(this, Picture::Options);
     tbsOptions = named<QTabWidget>(this, QStringLiteral("tbsOptions"));
     picOptions = {makeGeneralPage(), makeRefreshPage(), makeIoPage()};
     for (QWidget* page : picOptions)

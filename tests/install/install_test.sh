@@ -11,7 +11,7 @@ trap 'rm -rf "$prefix"' EXIT
 for file in bin/selvane bin/selvane-cli bin/kv7200b-sim share/applications/selvane.desktop \
     lib/udev/rules.d/60-selvane-usbtmc.rules share/selvane/help/KV7200help.html \
     share/selvane/help/KV7200help_Chinese.html share/bash-completion/completions/selvane-cli \
-    share/man/man1/selvane-cli.1.gz; do
+    share/man/man1/selvane-cli.1.gz share/icons/hicolor/scalable/apps/selvane.svg; do
     [ -e "$prefix/$file" ] || { echo "not installed: $file"; exit 1; }
 done
 cd "$prefix"
