@@ -234,7 +234,6 @@ QWidget* frmOpenWaveform::buildSidePanel()
     FlatBttn4 = named(new QPushButton(side), "FlatBttn4");
     cmdPrint = named(new QPushButton(side), "cmdPrint");
     cmdPreview = named(new QPushButton(side), "cmdPreview");
-    FlatBttn3->setIcon(ProgramIcon(Picture::Save));
     FlatBttn4->setIcon(ProgramIcon(Picture::Export));
     cmdPrint->setIcon(ProgramIcon(Picture::Print));
     cmdPreview->setIcon(ProgramIcon(Picture::Preview));

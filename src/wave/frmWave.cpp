@@ -158,9 +158,8 @@ QWidget* frmWave::buildSidePanel()
     cmdExport = named(new QPushButton(side), "cmdExport");
     cmdPrint = named(new QPushButton(side), "cmdPrint");
     cmdPreview = named(new QPushButton(side), "cmdPreview");
-    cmdExport->setIcon(ProgramIcon(Picture::Export));
-    cmdPrint->setIcon(ProgramIcon(Picture::Print));
-    cmdPreview->setIcon(ProgramIcon(Picture::Preview));
+    // No pictures on the output buttons: the pane is too narrow for a picture
+    // beside "     Preview", whose leading blanks are kept as they are.
     Command1 = named(new QPushButton(QStringLiteral("Command1"), side), "Command1");
     Command1->hide();
     arrangeSidePanel(side);
