@@ -1,7 +1,7 @@
 # Shared by run.sh and test.sh: install what is missing, configure, build.
 # Sourced, not run.
 
-SELVANE_PACKAGES=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-serialport-dev libgl-dev
+SELVANE_PACKAGES=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-serialport-dev qt6-svg-dev libgl-dev
                   libgtest-dev libgmock-dev libbenchmark-dev fonts-noto-cjk xvfb xauth
                   python3 python3-pyvisa python3-pyvisa-py ccache)
 

@@ -4,8 +4,9 @@
 #include "analysis/dataexport.h"
 #include "analysis/datarecord.h"
 #include "analysis/exportfile.h"
-#include "platform/platform.h"
+#include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
+#include "platform/platform.h"
 #include "text/language.h"
 
 #include <QLabel>
@@ -44,6 +45,7 @@ QString cell(const DataColumn& column, int index)
 frmData::frmData(int slot, QWidget* parent) : TableWindowBase(slot, DataForms, parent)
 {
     setObjectName(QStringLiteral("frmData"));
+    SetWindowPicture(this, Picture::Data);
     SetCaptions(Language);
     ShowEmptyTable();
     resize(460, 430);

@@ -5,8 +5,9 @@
 #include "analysis/frmPassFailed.h"
 #include "analysis/measurejudge.h"
 #include "analysis/readmeasure.h"
-#include "platform/platform.h"
+#include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
+#include "platform/platform.h"
 #include "text/language.h"
 
 #include <QComboBox>
@@ -54,6 +55,7 @@ QStringList headers(int language)
 frmMeasure::frmMeasure(int slot, QWidget* parent) : TableWindowBase(slot, MeasureForms, parent)
 {
     setObjectName(QStringLiteral("frmMeasure"));
+    SetWindowPicture(this, Picture::Measure);
     cmdPassFailed = new QPushButton(this);
     cmdPassFailed->setObjectName(QStringLiteral("cmdPassFailed"));
     buttonRow->addWidget(cmdPassFailed);

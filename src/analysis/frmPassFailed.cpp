@@ -1,8 +1,9 @@
 #include "analysis/frmPassFailed.h"
 
 #include "analysis/measurejudge.h"
-#include "platform/platform.h"
+#include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
+#include "platform/platform.h"
 #include "text/language.h"
 #include "text/messages.h"
 
@@ -54,6 +55,7 @@ frmPassFailed::frmPassFailed(int slot, const QString& windowTitle, QWidget* pare
     : QDialog(parent), slot_(slot >= 0 && slot < MeasureRecordCount ? slot : 0), windowTitle_(windowTitle)
 {
     setObjectName(QStringLiteral("frmPassFailed"));
+    SetWindowPicture(this, Picture::Measure);
     setModal(true);
     buildControls();
     connectControls();

@@ -2,6 +2,7 @@
 
 #include "acquire/frmPrgress.h"
 #include "acquire/operation.h"
+#include "document/programiconwidgets.h"
 #include "link/linkstate.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
@@ -25,7 +26,7 @@ constexpr int FollowIntervalMs = 500;
 
 QIcon refreshIcon(bool stop)
 {
-    return QIcon(RefreshButtonImage(stop, false));
+    return ProgramIcon(stop ? Picture::Stop : Picture::Refresh);
 }
 
 template <typename T> T* named(T* control, const QString& name)
@@ -44,6 +45,7 @@ TableWindowBase::TableWindowBase(int slot, WindowTable& forms, QWidget* parent)
     cmdRefresh = named(new QPushButton(this), QStringLiteral("cmdRefresh"));
     cmdRefresh->setIcon(refreshIcon(false));
     cmdExport = named(new QPushButton(this), QStringLiteral("cmdExport"));
+    cmdExport->setIcon(ProgramIcon(Picture::Export));
     buttonRow = new QHBoxLayout;
     buttonRow->addWidget(cmdRefresh);
     for (int k = 0; k < 4; ++k) {

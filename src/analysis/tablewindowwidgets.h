@@ -7,6 +7,7 @@
 #include "text/captions.h"
 
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPointer>
 #include <QWidget>
 #include <array>
@@ -78,7 +79,7 @@ template <typename Window> Window* CreateTableWindow(QMdiArea* area, int slot)
 {
     if (!area || slot < 0 || slot >= TableWindowBase::SlotCount) return nullptr;
     auto* window = new Window(slot);
-    area->addSubWindow(window);
+    area->addSubWindow(window)->setWindowIcon(window->windowIcon());
     window->show();
     return window;
 }

@@ -1,7 +1,8 @@
+#include "document/programiconwidgets.h"
 #include "frame/frmMain.h"
 #include "frame/frmStartup.h"
-#include "text/productinfo.h"
 #include "platform/widgetsplatform.h"
+#include "text/productinfo.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -14,6 +15,7 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(ProgramTitle);
     QApplication::setOrganizationName(ProgramTitle);
+    QApplication::setWindowIcon(ProgramIcon(Picture::Program));
     installPlatform(std::make_unique<WidgetsPlatform>());
 
     std::unique_ptr<frmMain> window(Main());

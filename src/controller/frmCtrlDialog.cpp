@@ -1,6 +1,7 @@
 #include "controller/frmCtrlDialog.h"
 
 #include "controller/ctrlcommands.h"
+#include "document/programiconwidgets.h"
 #include "platform/platform.h"
 #include "settings/softwaresettings.h"
 #include "text/language.h"
@@ -27,6 +28,7 @@ constexpr const char* KeyCaptions[] = {"0", "1", "2", "3", "4",   "5",    "6",
 CtrlDialog::CtrlDialog(QWidget* parent) : QDialog(parent)
 {
     setObjectName("CtrlDialog");
+    SetWindowPicture(this, Picture::CtrlSetting);
     Frame = new QGroupBox(this);
     Frame->setObjectName("Frame");
     Combo = new QComboBox(Frame);

@@ -2,6 +2,7 @@
 
 #include "controller/ctrlstate.h"
 #include "controller/fineadjust.h"
+#include "document/programiconwidgets.h"
 #include "text/language.h"
 
 #include <QGridLayout>
@@ -21,6 +22,7 @@ constexpr int RepeatMs = 100;
 CtrlDialogAdjust::CtrlDialogAdjust(QWidget* parent) : QDialog(parent)
 {
     setObjectName("CtrlDialogAdjust");
+    SetWindowPicture(this, Picture::CtrlSetting);
     FrameAdjust = new QGroupBox(this);
     FrameAdjust->setObjectName("FrameAdjust");
     for (int i = 0; i < 2; ++i) {

@@ -9,6 +9,7 @@
 #include "controller/download.h"
 #include "controller/editor.h"
 #include "controller/upload.h"
+#include "document/programiconwidgets.h"
 #include "link/linkstate.h"
 #include "platform/platform.h"
 #include "text/captionwidgets.h"
@@ -57,15 +58,16 @@ QString pathOf(const QTreeWidgetItem* item)
 frmCtrlList::frmCtrlList(QWidget* parent) : QWidget(parent)
 {
     setObjectName("frmCtrlList");
+    SetWindowPicture(this, Picture::Controller);
     cmdUpload = new QPushButton(this);
     cmdUpload->setObjectName("cmdUpload");
     cmdUpload->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
     cmdDownload = new QPushButton(this);
     cmdDownload->setObjectName("cmdDownload");
     cmdDownload->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
-    rootIcon = style()->standardIcon(QStyle::SP_ComputerIcon);
-    groupIcon = style()->standardIcon(QStyle::SP_DirIcon);
-    leafIcon = style()->standardIcon(QStyle::SP_FileIcon);
+    rootIcon = ProgramIcon(Picture::Controller);
+    groupIcon = ProgramIcon(Picture::CtrlGroup);
+    leafIcon = ProgramIcon(Picture::CtrlSetting);
     CtrlTreeView = new QTreeWidget(this);
     CtrlTreeView->setObjectName("CtrlTreeView");
     CtrlTreeView->header()->hide();

@@ -2,6 +2,7 @@
 
 #include "controller/ctrlcommands.h"
 #include "controller/ctrlstate.h"
+#include "document/programiconwidgets.h"
 #include "link/linkcommands.h"
 
 #include <QButtonGroup>
@@ -19,6 +20,7 @@ const char* const ArrayNames[] = {"N", "High", "Low", "Option1", "Down"};
 PatternDlg::PatternDlg(QWidget* parent) : QDialog(parent)
 {
     setObjectName("PatternDlg");
+    SetWindowPicture(this, Picture::CtrlSetting);
     setWindowTitle(CtrlText(u"Code ", u"码型"));
     auto* inputs = new QHBoxLayout;
     for (int input = 0; input < 5; ++input) {

@@ -12,6 +12,8 @@ QMdiSubWindow* ShowChildWindow(QWidget* window, QMdiArea* area, const QString& c
     }
     QMdiSubWindow* child = area->addSubWindow(window);
     child->setObjectName(childName);
+    // The frame's title bar shows the window's own picture, not the program's.
+    child->setWindowIcon(window->windowIcon());
     child->show();
     return child;
 }

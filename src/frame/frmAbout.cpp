@@ -1,5 +1,6 @@
 #include "frame/frmAbout.h"
 
+#include "document/programiconwidgets.h"
 #include "platform/platform.h"
 #include "text/captions.h"
 #include "text/language.h"
@@ -9,7 +10,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 
 namespace {
 
@@ -26,7 +26,8 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent)
 {
     setObjectName("frmAbout");
     picIcon = makeLabel(this, "picIcon", QString());
-    picIcon->setPixmap(style()->standardIcon(QStyle::SP_ComputerIcon).pixmap(48, 48));
+    SetWindowPicture(this, Picture::Program);
+    picIcon->setPixmap(ProgramPixmap(Picture::Program, 48));
     picIcon->installEventFilter(this);
     lblTitle = makeLabel(this, "lblTitle", ProgramTitle + QStringLiteral(" for ") + ProductModel);
     lblVersion = makeLabel(this, "lblVersion", QStringLiteral("Version ") + ProgramVersion);

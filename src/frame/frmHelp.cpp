@@ -1,5 +1,6 @@
 #include "frame/frmHelp.h"
 
+#include "document/programiconwidgets.h"
 #include "platform/platform.h"
 #include "text/captions.h"
 #include "text/language.h"
@@ -16,7 +17,7 @@
 namespace {
 
 // Every entry page lists the manual's chapters under this anchor.
-const QString contentsAnchor = QStringLiteral("contents");
+const QString ContentsAnchor = QStringLiteral("contents");
 
 QPointer<frmHelp>& openViewer()
 {
@@ -46,6 +47,7 @@ frmHelp::frmHelp(QWidget* parent) : QWidget(parent, Qt::Window)
 {
     setObjectName("frmHelp");
     setAttribute(Qt::WA_DeleteOnClose);
+    SetWindowPicture(this, Picture::Program);
     cmdBack = makeButton(this, "cmdBack", QStyle::SP_ArrowBack);
     cmdForward = makeButton(this, "cmdForward", QStyle::SP_ArrowForward);
     cmdHome = makeButton(this, "cmdHome", QStyle::SP_DirHomeIcon);
@@ -92,7 +94,7 @@ void frmHelp::cmdHome_Click()
 void frmHelp::cmdContents_Click()
 {
     QUrl url = QUrl::fromLocalFile(manual_);
-    url.setFragment(contentsAnchor);
+    url.setFragment(ContentsAnchor);
     txtHelp->setSource(url);
 }
 

@@ -6,6 +6,7 @@
 #include "acquire/waverecord.h"
 #include "controller/ctrlstate.h"
 #include "controller/frmCtrlList.h"
+#include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
 #include "frame/recentfiles.h"
 #include "frame/shutdown.h"
@@ -48,6 +49,7 @@ QDockWidget* makePane(QMainWindow* window, const char* key, QWidget* content)
 frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
 {
     setObjectName("frmMain");
+    SetWindowPicture(this, Picture::Program);
     setWindowTitle(ProgramTitle);
     MdiArea = new QMdiArea(this);
     MdiArea->setObjectName("MdiArea");

@@ -3,39 +3,19 @@
 
 #include "frame/frmMain.h"
 
-#include "text/captionwidgets.h"
+#include "document/programiconwidgets.h"
 #include "sheet/frmDataSheetTree.h"
+#include "text/captionwidgets.h"
 
 #include <QAction>
-#include <QPainter>
 #include <QStatusBar>
-#include <QStyle>
 #include <QToolBar>
 
 namespace {
 
-// A small picture with a letter or two, for the buttons the style has no icon for.
-QIcon letterIcon(const QString& letters, const QColor& colour)
+QAction* addButton(QToolBar* bar, const char* key, Picture picture)
 {
-    QPixmap pixmap(20, 20);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(colour);
-    painter.setPen(colour.darker(160));
-    painter.drawRoundedRect(QRectF(1, 1, 18, 18), 3, 3);
-    QFont font = painter.font();
-    font.setPixelSize(letters.size() > 1 ? 8 : 11);
-    font.setBold(true);
-    painter.setFont(font);
-    painter.setPen(Qt::black);
-    painter.drawText(QRect(0, 0, 20, 20), Qt::AlignCenter, letters);
-    return QIcon(pixmap);
-}
-
-QAction* addButton(QToolBar* bar, const char* key, const QIcon& icon)
-{
-    QAction* button = bar->addAction(icon, QString::fromLatin1(key));
+    QAction* button = bar->addAction(ProgramIcon(picture), QString::fromLatin1(key));
     button->setObjectName(QString::fromLatin1(key));
     return button;
 }
@@ -47,35 +27,30 @@ void frmMain::createToolBar()
     tbToolBar = addToolBar(QString());
     tbToolBar->setObjectName("tbToolBar");
     tbToolBar->setMovable(false);
-    auto pass = [this](const char* key, const QIcon& icon, const char* menuEntry) {
+    auto pass = [this](const char* key, Picture picture, const char* menuEntry) {
         QAction* target = findChild<QAction*>(QString::fromLatin1(menuEntry));
-        connect(addButton(tbToolBar, key, icon), &QAction::triggered, target, &QAction::trigger);
+        connect(addButton(tbToolBar, key, picture), &QAction::triggered, target, &QAction::trigger);
     };
-    auto call = [this](const char* key, const QIcon& icon, auto handler) {
-        connect(addButton(tbToolBar, key, icon), &QAction::triggered, this, handler);
+    auto call = [this](const char* key, Picture picture, auto handler) {
+        connect(addButton(tbToolBar, key, picture), &QAction::triggered, this, handler);
     };
-    QStyle* look = style();
-    pass("New", look->standardIcon(QStyle::SP_FileIcon), "mnuFileNew");
-    pass("Open", look->standardIcon(QStyle::SP_DialogOpenButton), "mnuFileOpen");
-    pass("Save", look->standardIcon(QStyle::SP_DialogSaveButton), "mnuFileSaveAll");
+    pass("New", Picture::New, "mnuFileNew");
+    pass("Open", Picture::Open, "mnuFileOpen");
+    pass("Save", Picture::Save, "mnuFileSaveAll");
     tbToolBar->addSeparator();
-    pass("Connect", letterIcon("C", QColor(120, 220, 120)), "mnuToolsConnect");
-    pass("Disconnect", letterIcon("D", QColor(230, 130, 120)), "mnuToolsDisconnect");
-    pass("Options", look->standardIcon(QStyle::SP_FileDialogDetailedView), "mnuToolsOptions");
+    pass("Connect", Picture::Connect, "mnuToolsConnect");
+    pass("Disconnect", Picture::Disconnect, "mnuToolsDisconnect");
+    pass("Options", Picture::Options, "mnuToolsOptions");
     tbToolBar->addSeparator();
-    pass("Controller", letterIcon("Ct", QColor(200, 200, 240)), "mnuViewController");
-    pass("DataBrowser", letterIcon("DB", QColor(200, 200, 240)), "mnuViewDataBrowser");
+    pass("Controller", Picture::Controller, "mnuViewController");
+    pass("DataBrowser", Picture::DataBrowser, "mnuViewDataBrowser");
     tbToolBar->addSeparator();
-    call("AddNewWaveform", letterIcon("W", QColor(255, 255, 120)),
-         [this] { dataSheetTree()->mnuAddNewWaveform(); });
-    call("AddNewMeasure", letterIcon("M", QColor(120, 255, 255)),
-         [this] { dataSheetTree()->mnuAddNewMeasure(); });
-    call("AddNewData", letterIcon("D", QColor(255, 140, 255)), [this] { dataSheetTree()->mnuAddNewData(); });
-    call("FFT", letterIcon("F", QColor(190, 140, 255)), [this] { ShowWaveSetting(); });
-    call("AddNewRecord", letterIcon("R", QColor(150, 200, 255)),
-         [this] { dataSheetTree()->mnuAddNewPlayBack(); });
-    call("AddNewMemoryWaveform", letterIcon("MW", QColor(220, 220, 220)),
-         [this] { dataSheetTree()->mnuAddNewMemoryWave(); });
+    call("AddNewWaveform", Picture::Wave, [this] { dataSheetTree()->mnuAddNewWaveform(); });
+    call("AddNewMeasure", Picture::Measure, [this] { dataSheetTree()->mnuAddNewMeasure(); });
+    call("AddNewData", Picture::Data, [this] { dataSheetTree()->mnuAddNewData(); });
+    call("FFT", Picture::Fft, [this] { ShowWaveSetting(); });
+    call("AddNewRecord", Picture::Record, [this] { dataSheetTree()->mnuAddNewPlayBack(); });
+    call("AddNewMemoryWaveform", Picture::MemoryWave, [this] { dataSheetTree()->mnuAddNewMemoryWave(); });
 }
 
 void frmMain::setToolbarCaptions(int language)

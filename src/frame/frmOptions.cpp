@@ -1,5 +1,6 @@
 #include "frame/frmOptions.h"
 
+#include "document/programiconwidgets.h"
 #include "frame/optionschoice.h"
 #include "link/linkstate.h"
 #include "settings/softwaresettings.h"
@@ -63,6 +64,7 @@ const QString NoDeviceChinese = QStringLiteral("无设备");
 frmOptions::frmOptions(QWidget* parent) : QDialog(parent)
 {
     setObjectName("frmOptions");
+    SetWindowPicture(this, Picture::Options);
     tbsOptions = named<QTabWidget>(this, QStringLiteral("tbsOptions"));
     picOptions = {makeGeneralPage(), makeRefreshPage(), makeIoPage()};
     for (QWidget* page : picOptions)

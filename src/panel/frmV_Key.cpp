@@ -1,5 +1,6 @@
 #include "panel/frmV_Key.h"
 
+#include "document/programiconwidgets.h"
 #include "link/devicefacts.h"
 #include "panel/keysetwidgets.h"
 #include "panel/panelstate.h"
@@ -16,6 +17,7 @@ frmV_Key::frmV_Key(QWidget* parent)
     : QWidget(parent, Qt::Window), keys_(new KeySetWidgets(this, KeySet::Keyboard))
 {
     setObjectName("frmV_Key");
+    SetWindowPicture(this, Picture::Keyboard);
     setAttribute(Qt::WA_DeleteOnClose);
     auto* layout = new QHBoxLayout(this);
     layout->addWidget(keys_->softKeys(), 0, Qt::AlignVCenter);

@@ -1,5 +1,6 @@
 #include "panel/frmV_Panel.h"
 
+#include "document/programiconwidgets.h"
 #include "link/devicefacts.h"
 #include "link/linkstate.h"
 #include "link/visablocks.h"
@@ -39,6 +40,7 @@ frmV_Panel::frmV_Panel(QWidget* parent)
     : QWidget(parent, Qt::Window), keys_(new KeySetWidgets(this, KeySet::Panel))
 {
     setObjectName("frmV_Panel");
+    SetWindowPicture(this, Picture::Panel);
     auto* layout = new QHBoxLayout(this);
     layout->addWidget(buildScreenSide());
     layout->addWidget(keys_->softKeys(), 0, Qt::AlignTop);
@@ -100,6 +102,11 @@ QWidget* frmV_Panel::buildScreenSide()
     cmdExport = outputButton("cmdExport", output);
     cmdPrint = outputButton("cmdPrint", output);
     cmdPreview = outputButton("cmdPreview", output);
+    cmdRun->setIcon(ProgramIcon(Picture::Refresh));
+    cmdStop->setIcon(ProgramIcon(Picture::Stop));
+    cmdExport->setIcon(ProgramIcon(Picture::Export));
+    cmdPrint->setIcon(ProgramIcon(Picture::Print));
+    cmdPreview->setIcon(ProgramIcon(Picture::Preview));
     outputRow->addWidget(cmdExport);
     outputRow->addWidget(cmdPrint);
     outputRow->addWidget(cmdPreview);

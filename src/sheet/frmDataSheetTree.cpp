@@ -2,6 +2,7 @@
 
 #include "sheet/frmDataSheetTree.h"
 
+#include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
 #include "sheet/frmSheetWindows.h"
 #include "sheet/sheetslots.h"
@@ -19,11 +20,24 @@
 
 namespace {
 constexpr int WindowCaptionSlot = 0; // "Data Sheet"
+
+QIcon KindIcon(SheetKind kind)
+{
+    switch (kind) {
+    case SheetKind::Measure: return ProgramIcon(Picture::Measure);
+    case SheetKind::Data: return ProgramIcon(Picture::Data);
+    case SheetKind::Wave: return ProgramIcon(Picture::Wave);
+    case SheetKind::MemoryWave: return ProgramIcon(Picture::MemoryWave);
+    case SheetKind::Record: return ProgramIcon(Picture::Record);
+    }
+    return {};
 }
+} // namespace
 
 frmDataSheetTree::frmDataSheetTree(QWidget* parent) : QWidget(parent)
 {
     setObjectName("frmDataSheetTree");
+    SetWindowPicture(this, Picture::DataBrowser);
     DataSheetTree = new QTreeWidget(this);
     DataSheetTree->setObjectName("DataSheetTree");
     DataSheetTree->setHeaderHidden(true);
@@ -72,6 +86,7 @@ void frmDataSheetTree::addChild(SheetKind kind, int slot)
     {
         const QSignalBlocker quiet(DataSheetTree);
         child.node = new QTreeWidgetItem(root(), {SlotName(kind, slot)});
+        child.node->setIcon(0, KindIcon(kind));
         child.node->setFlags(child.node->flags() | Qt::ItemIsEditable);
     }
     childrenOf(kind).push_back(child);
@@ -171,6 +186,7 @@ void frmDataSheetTree::showRoot()
     const QSignalBlocker quiet(DataSheetTree);
     DataSheetTree->clear();
     auto* node = new QTreeWidgetItem(DataSheetTree, {DataSheetName});
+    node->setIcon(0, ProgramIcon(Picture::Sheet));
     node->setExpanded(true);
     DataSheetTree->setCurrentItem(node);
     Q_EMIT mainTitleChanged(ProgramTitle + QStringLiteral(" - ") + DataSheetName);

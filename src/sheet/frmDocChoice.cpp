@@ -1,7 +1,7 @@
 #include "sheet/frmDocChoice.h"
 
+#include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
-#include "sheet/docpicturewidgets.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
 
@@ -11,8 +11,16 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <iterator>
 
 namespace {
+
+// The pictures of the choices, in choice order: data sheet, controller, wave,
+// measure, wave data, record, memory wave.
+constexpr Picture ChoicePictures[] = {Picture::Sheet,     Picture::Controller, Picture::Wave,
+                                      Picture::Measure,   Picture::Data,       Picture::Record,
+                                      Picture::MemoryWave};
+constexpr int ChoicePictureSide = 32;
 
 QPushButton* makeButton(QWidget* parent, const char* name)
 {
@@ -34,7 +42,8 @@ frmDocChoice::frmDocChoice(const QString& name, CaptionList captions, int option
         auto* row = new QHBoxLayout;
         auto* picture = new QLabel(fraFileType);
         picture->setObjectName(QStringLiteral("Image%1").arg(i + 1));
-        picture->setPixmap(DocChoicePicture(i + 1));
+        if (i < int(std::size(ChoicePictures)))
+            picture->setPixmap(ProgramPixmap(ChoicePictures[i], ChoicePictureSide));
         auto* option = new QRadioButton(fraFileType);
         option->setObjectName(QStringLiteral("NewOption_%1").arg(i));
         row->addWidget(picture);

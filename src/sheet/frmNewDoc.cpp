@@ -1,5 +1,6 @@
 #include "sheet/frmNewDoc.h"
 
+#include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
 #include "sheet/frmDataSheetTree.h"
 
@@ -20,11 +21,13 @@ bool ask(frmDocChoice& dialog)
 frmNewDoc::frmNewDoc(QWidget* parent)
     : frmDocChoice("frmNewDoc", CaptionList::NewDocument, NewChoices, parent)
 {
+    SetWindowPicture(this, Picture::New);
 }
 
 frmOpenDoc::frmOpenDoc(QWidget* parent)
     : frmDocChoice("frmOpenDoc", CaptionList::OpenDocument, OpenChoices, parent)
 {
+    SetWindowPicture(this, Picture::Open);
 }
 
 bool AskNewDocument(QWidget* parent)

@@ -2,6 +2,7 @@
 #include "stored/frmOpenWaveform.h"
 
 #include "document/childwindowwidgets.h"
+#include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
@@ -89,6 +90,7 @@ frmOpenWaveform::frmOpenWaveform(int slot, QWidget* parent)
     : QWidget(parent), slot_(validSlot(slot) ? slot : 0)
 {
     setObjectName(QStringLiteral("frmOpenWaveform"));
+    SetWindowPicture(this, Picture::MemoryWave);
     setFocusPolicy(Qt::StrongFocus);
     buildControls();
     connectControls();
@@ -232,6 +234,9 @@ QWidget* frmOpenWaveform::buildSidePanel()
     FlatBttn4 = named(new QPushButton(side), "FlatBttn4");
     cmdPrint = named(new QPushButton(side), "cmdPrint");
     cmdPreview = named(new QPushButton(side), "cmdPreview");
+    FlatBttn4->setIcon(ProgramIcon(Picture::Export));
+    cmdPrint->setIcon(ProgramIcon(Picture::Print));
+    cmdPreview->setIcon(ProgramIcon(Picture::Preview));
     framDisplay = framed(side, "framDisplay",
                          {LblZoom, ZoomCombo, pair(side, OptionColor[0], OptionColor[1]), GridCheck});
     framCursor = framed(side, "framCursor", {pair(side, ChkCursorX, ChkCursorY)});

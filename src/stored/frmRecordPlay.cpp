@@ -2,6 +2,7 @@
 #include "stored/frmRecordPlay.h"
 
 #include "document/childwindowwidgets.h"
+#include "document/programiconwidgets.h"
 #include "stored/rcdfile.h"
 #include "stored/recordplaydraw.h"
 #include "stored/recordslot.h"
@@ -56,6 +57,7 @@ QToolButton* toolButton(QWidget* parent, const QString& name)
 frmRecordPlay::frmRecordPlay(int slot, QWidget* parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("frmRecordPlay"));
+    SetWindowPicture(this, Picture::Record);
     setProperty(TagProperty, QString::number(RecordSlotAt(slot) ? slot : 0));
     buildControls();
     connectControls();
@@ -162,12 +164,15 @@ QWidget* frmRecordPlay::buildSidePanel()
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     cmdOpen = named(new QPushButton(side), "cmdOpen");
-    cmdOpen->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
+    cmdOpen->setIcon(ProgramIcon(Picture::Open));
     FlatBttn4 = named(new QPushButton(side), "FlatBttn4");
     FlatBttn5 = named(new QPushButton(side), "FlatBttn5");
     FlatBttn1 = named(new QPushButton(side), "FlatBttn1");
     FlatBttn2 = named(new QPushButton(side), "FlatBttn2");
     FlatBttn3 = named(new QPushButton(side), "FlatBttn3");
+    FlatBttn1->setIcon(ProgramIcon(Picture::Export));
+    FlatBttn2->setIcon(ProgramIcon(Picture::Print));
+    FlatBttn3->setIcon(ProgramIcon(Picture::Preview));
     cmdRun = named(new QPushButton(side), "cmdRun");
     cmdRun->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
     for (QPushButton* button : {cmdOpen, FlatBttn4, FlatBttn5, FlatBttn1, FlatBttn2, FlatBttn3})

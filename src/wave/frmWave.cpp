@@ -3,6 +3,7 @@
 #include "acquire/operation.h"
 #include "acquire/waverecord.h"
 #include "document/childwindowwidgets.h"
+#include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
 #include "link/linkstate.h"
 #include "text/captionwidgets.h"
@@ -68,6 +69,7 @@ QLabel* imageHolder(QWidget* parent, const char* name, bool stop, bool down)
 frmWave::frmWave(int slot, QWidget* parent) : QWidget(parent), slot_(validSlot(slot) ? slot : 0)
 {
     setObjectName(QStringLiteral("frmWave"));
+    SetWindowPicture(this, Picture::Wave);
     setFocusPolicy(Qt::StrongFocus);
     buildControls();
     connectControls();
@@ -156,6 +158,8 @@ QWidget* frmWave::buildSidePanel()
     cmdExport = named(new QPushButton(side), "cmdExport");
     cmdPrint = named(new QPushButton(side), "cmdPrint");
     cmdPreview = named(new QPushButton(side), "cmdPreview");
+    // No pictures on the output buttons: the pane is too narrow for a picture
+    // beside "     Preview", whose leading blanks are kept as they are.
     Command1 = named(new QPushButton(QStringLiteral("Command1"), side), "Command1");
     Command1->hide();
     arrangeSidePanel(side);

@@ -1,6 +1,7 @@
 #include "wave/frmWaveSetting.h"
 
 #include "acquire/waverecord.h"
+#include "document/programiconwidgets.h"
 #include "text/captionwidgets.h"
 #include "text/language.h"
 #include "wave/fftsetting.h"
@@ -32,6 +33,7 @@ frmWaveSetting::frmWaveSetting(QMdiArea* area, QWidget* parent)
     : QDialog(parent), TabWave(named(new QTabWidget(this), "TabWave")), area_(area)
 {
     setObjectName(QStringLiteral("frmWaveSetting"));
+    SetWindowPicture(this, Picture::Fft);
     setModal(true);
     TabWave->addTab(named(buildPage(), "picFFTPage"), QString());
     cmdOK = named(new QPushButton(this), "cmdOK");

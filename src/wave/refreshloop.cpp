@@ -1,14 +1,13 @@
 #include "wave/refreshloop.h"
 
-#include "settings/softwaresettings.h"
 #include "link/linkstate.h"
 #include "platform/platform.h"
+#include "settings/softwaresettings.h"
 #include "text/messages.h"
 #include "wave/waverefresh.h"
 
 #include <QEventLoop>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QPointer>
 #include <QTimer>
 
@@ -19,24 +18,6 @@ namespace {
 constexpr int LoopPauseMs = 5;
 
 } // namespace
-
-QPixmap RefreshButtonImage(bool stop, bool down)
-{
-    QPixmap image(24, 24);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = down ? QColor(0, 96, 160) : QColor(0, 128, 255);
-    painter.setPen(QPen(color, 3));
-    if (stop) {
-        painter.fillRect(QRect(6, 6, 12, 12), color);
-    } else {
-        painter.drawArc(QRect(4, 4, 16, 16), 60 * 16, 280 * 16);
-        painter.setBrush(color);
-        painter.drawPolygon(QPolygon({QPoint(14, 1), QPoint(20, 5), QPoint(14, 9)}));
-    }
-    return image;
-}
 
 bool IsRefreshKey(const QKeyEvent* event)
 {

@@ -5,15 +5,11 @@
 // reading under way.
 
 #include <QObject>
-#include <QPixmap>
 #include <functional>
 
 class QKeyEvent;
 class QTimer;
 
-// The refresh button's images: a round arrow to refresh, a square to stop;
-// darker while pressed.
-QPixmap RefreshButtonImage(bool stop, bool down);
 // F5 with no Shift, Ctrl or Alt held: the refresh key.
 bool IsRefreshKey(const QKeyEvent* event);
 

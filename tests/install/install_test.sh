@@ -13,7 +13,7 @@ for file in bin/selvane bin/selvane-cli bin/kv7200b-sim share/applications/selva
     share/selvane/help/KV7200help_Chinese.html share/selvane/help/manual/style.css \
     share/selvane/help/manual/zh/connecting.html share/selvane/help/manual/images/en/wave.png \
     share/bash-completion/completions/selvane-cli \
-    share/man/man1/selvane-cli.1.gz; do
+    share/man/man1/selvane-cli.1.gz share/icons/hicolor/scalable/apps/selvane.svg; do
     [ -e "$prefix/$file" ] || { echo "not installed: $file"; exit 1; }
 done
 cd "$prefix"
