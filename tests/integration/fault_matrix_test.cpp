@@ -175,6 +175,9 @@ TEST_P(FaultMatrix, TransferReturnsAndLeavesTheStateItShould)
     if (fault.kind == FaultKind::Silent && transfer.showsEmptyReply) {
         EXPECT_TRUE(transfer.showsEmptyReply()) << "an unanswered query is an empty reply";
     }
+    if (fault.kind == FaultKind::Delay && connecting) {
+        EXPECT_FALSE(Connected) << "the identity came after the time-out";
+    }
     if (fault.kind == FaultKind::Silent && !connecting) {
         EXPECT_EQ(sentSince(before, transfer.commands), transfer.commands)
             << "the transfer went on to its end";
