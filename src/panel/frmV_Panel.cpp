@@ -159,6 +159,8 @@ void frmV_Panel::runScreenLoop()
 {
     const QPointer<frmV_Panel> self(this);
     loopRunning_ = true;
+    // Noted before the first screen, so a link lost on it still closes the window.
+    linkSeen_ = linkSeen_ || Connected;
     showRunState();
     while (self && PanelFlags.PanelOpen) {
         while (self && PanelRunsScreen()) {

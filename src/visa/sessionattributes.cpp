@@ -5,6 +5,9 @@
 #include "visa/tcpsocket.h"
 #include "visa/usbtmcdevices.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace selvane::visa {
 
 namespace {
@@ -128,6 +131,18 @@ bool acceptable(ViAttr attribute, Kind kind, ViAttrState value)
     }
 }
 
+// SELVANE_VISA_TIMEOUT_MS caps every time-out a program asks for, so a bench
+// (or a test) with a dead instrument need not wait out a program's long one.
+ViUInt32 cappedTimeout(ViUInt32 wanted)
+{
+    const char* text = std::getenv("SELVANE_VISA_TIMEOUT_MS");
+    if (!text || !*text) return wanted;
+    char* end = nullptr;
+    const unsigned long long cap = std::strtoull(text, &end, 10);
+    if (*end != '\0') return wanted;
+    return ViUInt32(std::min<unsigned long long>(wanted, cap));
+}
+
 } // namespace
 
 ViUInt16 interfaceCode(Interface interface)
@@ -220,7 +235,7 @@ ViStatus Session::change(ViAttr attribute, ViAttrState value)
     const bool on = value != 0;
     SerialLine& line = settings_.serial;
     switch (attribute) {
-    case VI_ATTR_TMO_VALUE: settings_.timeoutMs = ViUInt32(value); return VI_SUCCESS;
+    case VI_ATTR_TMO_VALUE: settings_.timeoutMs = cappedTimeout(ViUInt32(value)); return VI_SUCCESS;
     case VI_ATTR_MAX_QUEUE_LENGTH: maxQueueLength_ = ViUInt32(value); return VI_SUCCESS;
     case VI_ATTR_IO_PROT: ioProtocol_ = ViUInt16(value); return VI_SUCCESS;
     case VI_ATTR_DMA_ALLOW_EN: dmaAllowed_ = on; return VI_SUCCESS;

@@ -12,6 +12,7 @@
 #include "link/linklamp.h"
 #include "link/linkstate.h"
 
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -59,8 +60,8 @@ TEST_F(Reconnect, AfterTheSimulatorIsKilledARestartedOneConnectsAndReadsAgain)
     EXPECT_TRUE(Connected);
 }
 
-// selvane-cli idn against one HiSLIP address: exit status and output.
-std::pair<int, QString> cliIdn(const QString& resource)
+// selvane-cli against one HiSLIP address: exit status and output.
+std::pair<int, QString> cli(const QStringList& arguments)
 {
     QProcess cli;
     const QTemporaryDir home;
@@ -69,7 +70,7 @@ std::pair<int, QString> cliIdn(const QString& resource)
     environment.insert("HOME", home.path());
     environment.insert("XDG_CONFIG_HOME", home.path());
     cli.setProcessEnvironment(environment);
-    cli.start(SELVANE_CLI_PATH, {"idn", "--resource", resource});
+    cli.start(SELVANE_CLI_PATH, arguments);
     if (!cli.waitForFinished(30000)) return {-1, {}};
     return {cli.exitCode(), QString::fromLocal8Bit(cli.readAllStandardOutput()).trimmed()};
 }
@@ -80,10 +81,17 @@ TEST(CliReconnect, EachRoundAgainstARestartedSimulatorWorksAndAGoneOneFails)
     ASSERT_TRUE(sim->started()) << sim->errorString().toStdString();
     const QString port = QString::number(sim->sim().port("hislip"));
     const QString resource = "TCPIP0::127.0.0.1::hislip0," + port + "::INSTR";
+    const QTemporaryDir dir;
+    const QString picture = dir.filePath("wave.png");
     for (int round = 0; round < 3; ++round) {
-        EXPECT_EQ(cliIdn(resource), std::make_pair(0, QString(SupportedIdentity))) << round;
+        EXPECT_EQ(cli({"idn", "--resource", resource}), std::make_pair(0, QString(SupportedIdentity)))
+            << round;
+        QFile::remove(picture);
+        EXPECT_EQ(cli({"wave", "--resource", resource, "--out", picture}).first, 0) << round;
+        EXPECT_TRUE(QFile::exists(picture)) << round;
         sim.reset();
-        EXPECT_EQ(cliIdn(resource).first, 1) << round;
+        EXPECT_EQ(cli({"idn", "--resource", resource}).first, 1) << round;
+        EXPECT_NE(cli({"wave", "--resource", resource, "--out", picture}).first, 0) << round;
         sim = std::make_unique<SimLink>(QStringList{"--hislip-port", port});
         ASSERT_TRUE(sim->started()) << sim->errorString().toStdString();
     }
