@@ -8,6 +8,7 @@
 #include "text/valuetext.h"
 
 #include <QSerialPort>
+#include <QThread>
 #include <algorithm>
 
 namespace {
@@ -55,7 +56,11 @@ QString Rs232Read()
 {
     if (!LinkGateOpen()) return {};
     ReplyTicks = 0;
-    while (ReplyPending && ReplyTicks < SilenceTicks)
+    while (ReplyPending && ReplyTicks < SilenceTicks) {
         DoEvents();
+        // A pause between turns of the event loop keeps a silent instrument's
+        // four seconds from costing a whole processor; a reply is late by at most this.
+        if (ReplyPending) QThread::usleep(500);
+    }
     return ReplyTicks >= SilenceTicks ? QString() : ReplyText;
 }
