@@ -2,6 +2,7 @@
 // measure texts, each row a routine, its arguments and what it must give.
 #include "text/formatmask.h"
 #include "text/keywords.h"
+#include "text/steplists.h"
 #include "text/valuetext.h"
 #include "textcase.h"
 
@@ -15,7 +16,7 @@
 namespace {
 
 // A line split into blank-separated fields; a quoted field keeps its blanks and
-// takes \n and \t escapes.
+// takes \n, \r and \t escapes.
 QStringList fieldsOf(const QString& line)
 {
     QStringList fields;
@@ -30,7 +31,10 @@ QStringList fieldsOf(const QString& line)
             for (++i; i < line.size() && line[i] != u'"'; ++i) {
                 if (line[i] == u'\\' && i + 1 < line.size()) {
                     const QChar next = line[++i];
-                    field += next == u'n' ? QChar(u'\n') : next == u't' ? QChar(u'\t') : next;
+                    field += next == u'n'   ? QChar(u'\n')
+                             : next == u't' ? QChar(u'\t')
+                             : next == u'r' ? QChar(u'\r')
+                                            : next;
                 } else {
                     field += line[i];
                 }
@@ -150,6 +154,13 @@ const QHash<QString, Routine>& routines()
         TEXT(DbText);
         TEXT(PercentText);
         TEXT(PercentTextOf100);
+        TEXT(TimeFormatToWire);
+        TEXT(TimeFormatFromReply);
+        TEXT(VideoStandardToWire);
+        TEXT(VideoStandardFromReply);
+        TEXT(LaThresholdFromReply);
+        TEXT(AltSourcesFromReply);
+        TEXT(StripAtLineFeed);
 #undef TEXT
         r.insert("ParseTimeText", parser(ParseTimeText));
         r.insert("ParseVoltText", parser(ParseVoltText));
@@ -176,6 +187,21 @@ const QHash<QString, Routine>& routines()
                  {1, [](const QStringList& a) { return QStringList{ExactTimeWireText(number(a[0]))}; }});
         r.insert("FormatMask",
                  {2, [](const QStringList& a) { return QStringList{FormatMask(number(a[0]), a[1])}; }});
+        r.insert("AcLineText",
+                 {1, [](const QStringList& a) { return QStringList{AcLineText(a[0].toInt())}; }});
+        r.insert("BandwidthClassOf", {1, [](const QStringList& a) {
+                                          return QStringList{QString::number(BandwidthClassOf(a[0].toInt()))};
+                                      }});
+        r.insert("FormatMaskScaled",
+                 {3, [](const QStringList& a) {
+                      return QStringList{FormatMaskScaled(number(a[0]), a[1].toInt(), a[2])};
+                  }});
+        r.insert("FormatMaskSingle", {2, [](const QStringList& a) {
+                                          return QStringList{FormatMaskSingle(float(number(a[0])), a[1])};
+                                      }});
+        r.insert("GeneralFormatSingle", {1, [](const QStringList& a) {
+                                             return QStringList{GeneralFormatSingle(float(number(a[0])))};
+                                         }});
         r.insert("GeneralFormat",
                  {1, [](const QStringList& a) { return QStringList{GeneralFormat(number(a[0]))}; }});
         return r;
@@ -208,7 +234,7 @@ TEST(TextTables, EveryRowGivesItsResult)
         }
         ++rows;
     }
-    EXPECT_GE(rows, 450) << "the table file was read whole";
+    EXPECT_GE(rows, 500) << "the table file was read whole";
 }
 
 TEST(MeasureText, FullTextsMatchTheirParts)

@@ -149,51 +149,28 @@ TEST(DrawChannelTrace, StartBeyondSixteenBitsDrawsNothing)
     EXPECT_TRUE(drawChannel(Ramp(2049), 100, positions(400, 500)).empty());
 }
 
-// Peak halves: A = 10 + index % 7, B = 150 + index % 5; full screen, zoom 1,
-// positions 0 to 2: first index 213, steps at x = 26, 26.5, 27.
-TEST(DrawPeakTrace, EnvelopeLinesInOrder)
+// Peak halves A = 10 + index % 7 and B = 150 + index % 5 from index 213, positions
+// 0 to 2 at zoom 1 (steps at x 26, 26.5, 27): the first lines of each half and
+// the vertical between them, then per step A, B and the vertical at the last
+// x, and a closing vertical. Halved rows at zoom 2 with arrays that end at the
+// start index: no step and no closing vertical.
+TEST(DrawPeakTrace, Pictures)
 {
     WaveArray a(2049), b(2049);
     for (int i = 0; i < 2049; ++i) {
         a[i] = 10 + i % 7;
         b[i] = 150 + i % 5;
     }
-    const auto ya = [&](int i) { return 25.0 + a[i]; };
-    const auto yb = [&](int i) { return 25.0 + b[i]; };
-    RecordingSurface s;
-    DrawPeakTrace(WaveCanvas(s, 1), a, b, 600, 1, positions(0, 2), QStringLiteral("EDGE"),
-                  QStringLiteral("OFF"));
-    std::vector<Path> lines;
-    for (const SurfaceCall& c : s.calls())
-        lines.push_back({c.from, c.to});
-    std::vector<Path> expected{
-        {{25, ya(212)}, {25, ya(213)}}, {{25, yb(212)}, {25, yb(213)}}, {{25, yb(212)}, {25, ya(212)}}};
-    const double pxs[] = {26, 26, 27};
-    double prev = 25;
-    for (int k = 0; k < 3; ++k) {
-        const int i = 214 + k;
-        expected.push_back({{prev, ya(i - 1)}, {pxs[k], ya(i)}});
-        expected.push_back({{prev, yb(i - 1)}, {pxs[k], yb(i)}});
-        expected.push_back({{prev, yb(i - 1)}, {prev, ya(i - 1)}});
-        prev = pxs[k];
-    }
-    expected.push_back({{27, ya(216)}, {27, yb(216)}});
-    EXPECT_EQ(lines, expected);
-    for (const SurfaceCall& c : s.calls())
-        EXPECT_EQ(c.kind, SurfaceCall::Line);
-}
-
-TEST(DrawPeakEnvelope, HalfScaleAndEarlyEnd)
-{
-    // Half flag: rows y0 + s z / 2. The arrays end at the start index: no step, no closing vertical.
-    const WaveArray a{0, 0, 0, 0, 40, 60}, b{0, 0, 0, 0, 100, 120};
-    RecordingSurface s;
-    DrawPeakEnvelope(WaveCanvas(s, 2), a, b, 5, 30, 125, 299, 600, true);
-    std::vector<Path> lines;
-    for (const SurfaceCall& c : s.calls())
-        lines.push_back({c.from, c.to});
-    EXPECT_EQ(lines,
-              (std::vector<Path>{{{30, 165}, {30, 185}}, {{30, 225}, {30, 245}}, {{30, 225}, {30, 165}}}));
+    const WaveArray shortA{0, 0, 0, 0, 40, 60}, shortB{0, 0, 0, 0, 100, 120};
+    ExpectDrawings("peaktrace", {{"envelope",
+                                  [&](RecordingSurface& s) {
+                                      DrawPeakTrace(WaveCanvas(s, 1), a, b, 600, 1, positions(0, 2),
+                                                    QStringLiteral("EDGE"), QStringLiteral("OFF"));
+                                  }},
+                                 {"half-scale-early-end", [&](RecordingSurface& s) {
+                                      DrawPeakEnvelope(WaveCanvas(s, 2), shortA, shortB, 5, 30, 125, 299, 600,
+                                                       true);
+                                  }}});
 }
 
 } // namespace
