@@ -33,7 +33,7 @@ TEST(HitCursors, FirstCursorWithinThreePixelsWins)
         return name == u'-' ? std::optional<CursorId>()
                             : std::optional(CursorId((name[0] == u'Y' ? 4 : 0) + name.mid(1).toInt() - 1));
     };
-    const std::vector<QStringList> rows = DataRows("cursorhits.txt");
+    const std::vector<QStringList> rows = DataRows("wave/data/cursorhits.txt");
     EXPECT_EQ(rows.size(), 17u);
     for (const QStringList& f : rows) {
         ASSERT_EQ(f.size(), 9) << f.join(u' ').toStdString();

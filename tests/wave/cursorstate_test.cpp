@@ -55,7 +55,7 @@ TEST(CursorState, SecondAndFourthRowsHoldWholeSixteenBitNumbers)
 // grid, hidden ones stay where they are.
 TEST(ClampCursors, KeepsShownCursorsTwoPixelsInsideTheirGrid)
 {
-    const std::vector<QStringList> rows = DataRows("clamp.txt");
+    const std::vector<QStringList> rows = DataRows("wave/data/clamp.txt");
     EXPECT_EQ(rows.size(), 7u);
     for (const QStringList& f : rows) {
         ASSERT_EQ(f.size(), 21) << f.join(u' ').toStdString();

@@ -4,6 +4,7 @@
 // drawings kept whole as text in data/*.calls.
 
 #include "acquire/waverecord.h"
+#include "datarows.h"
 #include "wave/alternation.h"
 #include "wave/recordingsurface.h"
 #include "wave/wavecanvas.h"
@@ -110,18 +111,6 @@ inline QString CallLine(const SurfaceCall& c)
         return QStringLiteral("text ") + at(c.to) + QLatin1String(c.opaque ? " opaque " : " clear ") + c.text;
     }
     return {};
-}
-
-// The rows of data/<file>: blank-separated fields, "#" lines and blank lines left out.
-inline std::vector<QStringList> DataRows(const char* file)
-{
-    QFile data(QStringLiteral(SELVANE_TEST_DATA "/wave/data/") + QLatin1String(file));
-    EXPECT_TRUE(data.open(QIODevice::ReadOnly | QIODevice::Text)) << file;
-    std::vector<QStringList> rows;
-    for (const QString& line : QString::fromUtf8(data.readAll()).split(u'\n'))
-        if (!line.startsWith(u'#') && !line.trimmed().isEmpty())
-            rows.push_back(line.split(u' ', Qt::SkipEmptyParts));
-    return rows;
 }
 
 using Drawings = std::map<std::string, std::function<void(RecordingSurface&)>>;

@@ -6,12 +6,11 @@ namespace {
 // Every row of data/readouttexts.txt: a routine, its number or text, and what it gives.
 TEST(ReadoutTexts, EveryRowGivesItsResult)
 {
-    const std::vector<QStringList> rows = DataRows("readouttexts.txt");
+    const std::vector<QStringList> rows = DataRows("wave/data/readouttexts.txt");
     EXPECT_EQ(rows.size(), 37u);
-    for (QStringList f : rows) {
+    for (const QStringList& f : rows) {
         ASSERT_EQ(f.size(), 3) << f.join(u' ').toStdString();
         SCOPED_TRACE(f.join(u' ').toStdString());
-        f.replaceInStrings(QStringLiteral("\"\""), QString());
         const double value = f[1] == QLatin1String("nan") ? std::nan("") : f[1].toDouble();
         if (f[0] == QLatin1String("volt"))
             EXPECT_EQ(ConvertVoltToStr(value), f[2]);
