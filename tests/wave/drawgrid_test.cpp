@@ -61,35 +61,18 @@ TEST(DrawScrGrid, PicturesAtZoomOne)
                             {"black-on-white", grid(false, false, false)}});
 }
 
-struct GridCountCase {
-    double zoom;
-    bool split;
-    bool gridOn;
-    std::size_t pixels;
-};
-
-class GridPixelCountTest : public ::testing::TestWithParam<GridCountCase> {};
-
-// 496 tick pixels a pass (464 split); the dotted grid adds 1082 (split: 122 a
-// pass for the quarter rows, then 1466). At zoom 2 the tenth step of 0.1 passes
-// 2 by rounding, so the loop makes ten passes; below zoom 1 it makes none. At
-// zoom 0.01 the column steps of 0.05 add up past 2 after 40 dots.
-TEST_P(GridPixelCountTest, PixelsPerZoom)
+// The "grid" rows of data/traces.txt: 496 tick pixels a pass (464 split); the
+// dotted grid adds 1082 (split: 122 a pass for the quarter rows, then 1466). At
+// zoom 2 the tenth step of 0.1 passes 2 by rounding, so the loop makes ten
+// passes; below zoom 1 it makes none. At zoom 0.01 the column steps of 0.05 add
+// up past 2 after 40 dots.
+TEST(DrawScrGrid, PixelsPerZoom)
 {
-    const GridCountCase& c = GetParam();
-    RecordingSurface s;
-    EXPECT_EQ(drawGrid(c.zoom, c.split, c.gridOn, s).size(), c.pixels);
+    for (const QStringList& f : TraceRows("grid", 5)) {
+        RecordingSurface s;
+        EXPECT_EQ(drawGrid(f[1].toDouble(), f[2] == u'1', f[3] == u'1', s).size(), f[4].toUInt());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Zooms, GridPixelCountTest,
-    ::testing::Values(GridCountCase{0.5, false, false, 0}, GridCountCase{0.5, true, false, 0},
-                      GridCountCase{0.5, false, true, 1082}, GridCountCase{0.5, true, true, 1466},
-                      GridCountCase{1, false, true, 496 + 1082},
-                      GridCountCase{1, true, true, 464 + 122 + 1466}, GridCountCase{2, false, false, 4960},
-                      GridCountCase{2, true, false, 4640}, GridCountCase{2, false, true, 4960 + 1082},
-                      GridCountCase{2, true, true, 4640 + 1220 + 1466},
-                      GridCountCase{0.01, false, true, 549 + 520}));
 
 TEST(DrawScrGrid, ZoomTwoPlacesFirstPassAtTheScaledEdges)
 {

@@ -74,36 +74,25 @@ TEST(DrawMathTrace, AlternateTriggerUsesSourceBInTheLowerHalf)
     EXPECT_EQ(s.calls().back().to, QPointF(37, 125 + 12.5));
 }
 
-struct FftWidthCase {
-    int16_t scale;
-    int width;
-    int right; // min(150 + width / 2 rounded, 299) with offset 0
-};
-
-class FftWidthTest : public ::testing::TestWithParam<FftWidthCase> {};
-
-// Offset 0: x0 = 175 (left 150), index 2; steps of 0.5 from 176 to right + 24.
-TEST_P(FftWidthTest, WidthSetsTheRightEnd)
+// The "fftwidth" rows of data/traces.txt: offset 0 puts x0 at 175 (left 150),
+// index 2; steps of 0.5 run from 176 to right + 24, the right end being
+// min(150 + width / 2 rounded, 299).
+TEST(DrawFftTrace, WidthSetsTheRightEnd)
 {
-    const FftWidthCase& c = GetParam();
-    EXPECT_EQ(FftWidth(c.scale), c.width);
-    WaveParameter p;
-    p.s16FFTHorizScale = c.scale;
-    p.s8FFTScreen = 1;
-    RecordingSurface s;
-    DrawFftTrace(WaveCanvas(s, 1), Ramp(2049), 600, p, QStringLiteral("EDGE"));
-    const std::vector<SurfaceCall>& calls = s.calls();
-    ASSERT_EQ(calls.size(), 1u + 2u * (c.right - 151) + 1u);
-    EXPECT_EQ(PathOf({calls[0]}), (Path{{175, 26}, {175, 27}}));
-    EXPECT_EQ(calls.back().to.x(), c.right + 25);
+    for (const QStringList& f : TraceRows("fftwidth", 4)) {
+        const int right = f[3].toInt();
+        EXPECT_EQ(FftWidth(int16_t(f[1].toInt())), f[2].toInt());
+        WaveParameter p;
+        p.s16FFTHorizScale = int16_t(f[1].toInt());
+        p.s8FFTScreen = 1;
+        RecordingSurface s;
+        DrawFftTrace(WaveCanvas(s, 1), Ramp(2049), 600, p, QStringLiteral("EDGE"));
+        const std::vector<SurfaceCall>& calls = s.calls();
+        ASSERT_EQ(calls.size(), 1u + 2u * (right - 151) + 1u);
+        EXPECT_EQ(PathOf({calls[0]}), (Path{{175, 26}, {175, 27}}));
+        EXPECT_EQ(calls.back().to.x(), right + 25);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Scales, FftWidthTest,
-                         ::testing::Values(FftWidthCase{0, 500, 299}, FftWidthCase{1, 5000, 299},
-                                           FftWidthCase{2, 2500, 299}, FftWidthCase{3, 1000, 299},
-                                           FftWidthCase{4, 500, 299}, FftWidthCase{5, 250, 275},
-                                           FftWidthCase{6, 100, 200}, FftWidthCase{7, 25, 162},
-                                           FftWidthCase{8, 500, 299}));
 
 TEST(DrawFftTrace, OffsetShiftsAndEndsTheSpectrum)
 {
@@ -121,38 +110,20 @@ TEST(DrawFftTrace, OffsetShiftsAndEndsTheSpectrum)
     EXPECT_EQ(PathOf(s.calls()), (Path{{25, 50}, {25, 51}}));
 }
 
-struct FftRowCase {
-    const char* name;
-    const char* mode;
-    int8_t fftSource;
-    bool modelHasBFlag;
-    int sample;
-    double y;
-};
-
-class FftRowTest : public ::testing::TestWithParam<FftRowCase> {};
-
-// Shared screen: y = y0 + min(s + c, 100) z, c 12.5 without the B flag.
-TEST_P(FftRowTest, SpectrumKeepsToItsHalf)
+// The "fftrow" rows of data/traces.txt: on a shared screen y = y0 + min(s + c,
+// 100) z, with c 12.5 without the model's B flag.
+TEST(DrawFftTrace, SpectrumKeepsToItsHalf)
 {
-    const FftRowCase& c = GetParam();
-    WaveParameter p;
-    p.s8FFTScreen = 0;
-    p.s8FFTSource = c.fftSource;
-    WaveArray fft(2049, c.sample);
-    RecordingSurface s;
-    DrawFftTrace(WaveCanvas(s, 1, c.modelHasBFlag), fft, 600, p, QString::fromLatin1(c.mode));
-    ASSERT_FALSE(s.calls().empty());
-    EXPECT_EQ(s.calls()[0].to.y(), c.y);
+    for (const QStringList& f : TraceRows("fftrow", 7)) {
+        SCOPED_TRACE(f[1].toStdString());
+        WaveParameter p;
+        p.s8FFTScreen = 0;
+        p.s8FFTSource = int8_t(f[3].toInt());
+        RecordingSurface s;
+        DrawFftTrace(WaveCanvas(s, 1, f[4] == u'1'), WaveArray(2049, f[5].toInt()), 600, p, f[2]);
+        ASSERT_FALSE(s.calls().empty());
+        EXPECT_EQ(s.calls()[0].to.y(), f[6].toDouble());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, FftRowTest,
-                         ::testing::Values(FftRowCase{"Lower", "EDGE", 0, true, 50, 175},
-                                           FftRowCase{"LowerLifted", "EDGE", 0, false, 50, 187.5},
-                                           FftRowCase{"LiftedCapped", "EDGE", 0, false, 95, 225},
-                                           FftRowCase{"Capped", "EDGE", 0, true, 150, 225},
-                                           FftRowCase{"AltSourceAUpper", "ALTERNATION", 0, true, 50, 75},
-                                           FftRowCase{"AltSourceBLower", "ALTERNATION", 1, true, 50, 175}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace

@@ -113,6 +113,18 @@ inline QString CallLine(const SurfaceCall& c)
     return {};
 }
 
+// The rows of data/traces.txt of one kind, each checked for its field count.
+inline std::vector<QStringList> TraceRows(const char* kind, qsizetype fields)
+{
+    std::vector<QStringList> rows;
+    for (const QStringList& f : DataRows("wave/data/traces.txt"))
+        if (f[0] == QLatin1String(kind)) rows.push_back(f);
+    EXPECT_FALSE(rows.empty()) << kind;
+    for (const QStringList& f : rows)
+        EXPECT_EQ(f.size(), fields) << f.join(u' ').toStdString();
+    return rows;
+}
+
 using Drawings = std::map<std::string, std::function<void(RecordingSurface&)>>;
 
 // Every drawing against its section of data/<file>.calls: "= name" opens a
