@@ -1,35 +1,28 @@
 #include "acquire/tabletext.h"
 #include "acquire/wavebytes.h"
 #include "acquire/waverecord.h"
+#include "datarows.h"
 #include "state/programstate.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-struct SplitCase {
-    const char* triggerMode;
-    const char* fftDisplay;
-    int8_t fftScreen;
-    bool split;
-};
-
-class SplitScreenTest : public ::testing::TestWithParam<SplitCase> {};
-
-TEST_P(SplitScreenTest, FollowsTriggerModeAndSharedSpectrum)
+// Every row of data/waverecord.txt: the split screen by trigger mode and shared
+// spectrum, and the exponent's sign by size in the table's number codes.
+TEST(WaveRecord, EveryRowOfTheTable)
 {
-    const SplitCase& c = GetParam();
-    EXPECT_EQ(
-        SplitScreenOf(QString::fromLatin1(c.triggerMode), QString::fromLatin1(c.fftDisplay), c.fftScreen),
-        c.split);
+    int rows = 0;
+    for (const QStringList& f : DataRows("acquire/data/waverecord.txt")) {
+        SCOPED_TRACE(f.join(u' ').toStdString());
+        if (f[0] == QLatin1String("split"))
+            EXPECT_EQ(SplitScreenOf(f[1], f[2], int8_t(f[3].toInt())), f[4] == QLatin1String("yes"));
+        else
+            EXPECT_EQ(FormatCode(f[1].toFloat()), f[2]);
+        ++rows;
+    }
+    EXPECT_EQ(rows, 15);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, SplitScreenTest,
-    ::testing::Values(SplitCase{"EDGE", "ON", 0, true}, SplitCase{"EDGE", "ON", 1, false},
-                      SplitCase{"EDGE", "ON", -1, true}, SplitCase{"EDGE", "OFF", 0, false},
-                      SplitCase{"ALTERNATION", "OFF", 1, true}, SplitCase{"ALTERNATION", "ON", 1, true},
-                      SplitCase{"alternation", "OFF", 0, false}, SplitCase{"EDGE", "on", 0, false}));
 
 TEST(WaveRecord, ChannelAccessorsReachTheirOwnFields)
 {
@@ -64,23 +57,5 @@ TEST(ResetProgramState, ClearsSnapshotsBlockAndTables)
     EXPECT_TRUE(DataValueText2[10240].isEmpty());
     EXPECT_TRUE(DataHeaderText.isEmpty());
 }
-
-struct CodeCase {
-    float value;
-    const char* text;
-};
-
-class FormatCodeTest : public ::testing::TestWithParam<CodeCase> {};
-
-TEST_P(FormatCodeTest, SignsTheExponentBySize)
-{
-    EXPECT_EQ(FormatCode(GetParam().value), QString::fromLatin1(GetParam().text));
-}
-
-INSTANTIATE_TEST_SUITE_P(Values, FormatCodeTest,
-                         ::testing::Values(CodeCase{1.0f, "1.00E+00"}, CodeCase{12345.0f, "1.23E+04"},
-                                           CodeCase{0.5f, "5.00E-01"}, CodeCase{0.00125f, "1.25E-03"},
-                                           CodeCase{-0.002f, "-2.00E-03"}, CodeCase{-2.5f, "-2.50E00"},
-                                           CodeCase{0.0f, "0.00E00"}));
 
 } // namespace

@@ -164,6 +164,19 @@ TEST_F(FaultySession, SilenceMatchesWholeLinesOrHeadersWhateverTheCase)
     EXPECT_EQ(f->answer(":WAVEFORM:SCREENDATA2?"), ":WAVEFORM:SCREENDATA2?!\n");
 }
 
+TEST_F(FaultySession, ShortBlocksAndGarbageRewriteTheReply)
+{
+    FaultOptions options;
+    options.shortBlocks = true;
+    EXPECT_EQ(faultsWith(options)->answer("#16abcd?"), "#16abc\n") << "the echo \"#16abcd?!\" is a block";
+    options.shortBlocks = false;
+    options.garbage = true;
+    const QByteArray reply = faultsWith(options)->answer("*IDN?");
+    ASSERT_EQ(reply.size(), 7);
+    EXPECT_NE(reply, "*IDN?!\n");
+    EXPECT_EQ(reply.indexOf('\n'), 6) << "noise of the same length, then the line feed";
+}
+
 TEST_F(FaultySession, DropAfterAnswersNThenRefusesAndForgetsTheRest)
 {
     FaultOptions options;

@@ -195,18 +195,13 @@ TEST_F(Vxi11Transport, LongReplyComesOverSeveralReadsWithEndOnTheLast)
     EXPECT_EQ(whole, QByteArray(kTestIdn) + '\n');
 }
 
-TEST_F(Vxi11Transport, WriteWithoutLineFeedEndsAtEnd)
+TEST_F(Vxi11Transport, WritesEndAtTheEndFlagAndPiecesWithoutItAreJoined)
 {
     open();
     EXPECT_EQ(write("*IDN?"), 0u);
     const ReadResult reply = read(4096);
     EXPECT_EQ(reply.reason, quint32(End));
     EXPECT_EQ(reply.data, QByteArray(kTestIdn) + '\n');
-}
-
-TEST_F(Vxi11Transport, WriteInPiecesWithoutEndIsJoined)
-{
-    open();
     EXPECT_EQ(write("*ID", 0), 0u);
     EXPECT_EQ(write("N?\n", 0), 0u);
     EXPECT_EQ(read(4096).data, QByteArray(kTestIdn) + '\n');
@@ -243,15 +238,6 @@ TEST_F(Vxi11Transport, AbortOnTheAbortPortEndsAWaitingRead)
     ASSERT_TRUE(abort.connectTo(sim->port("vxi11")));
     EXPECT_EQ(abort.call(0x0607B0, 1, 1, words({lid})).word(), 0u);
     EXPECT_EQ(rpc.receive(read).word(), 23u) << "aborted";
-}
-
-TEST_F(Vxi11Transport, DropAfterClosesTheConnection)
-{
-    open({"--drop-after", "1"});
-    EXPECT_EQ(write("*IDN?\n"), 0u);
-    EXPECT_EQ(read(256).data, QByteArray(kTestIdn) + '\n');
-    rpc.send(kCore, 1, Write, words({lid, 0, 0, kEndFlag}) + opaque("*IDN?\n"));
-    EXPECT_TRUE(rpc.waitClosed());
 }
 
 TEST_F(Vxi11Transport, NonsenseOnTheWireClosesOnlyThatConnection)

@@ -38,36 +38,18 @@ struct Expected {
 };
 
 // Blanks, misspellings and doubled ampersands stay as the windows show them, and
-// the uneven lists pair by meaning.
+// the uneven lists pair by meaning (one case of each; the windows' tests see the rest).
 const Expected expectedCaptions[] = {
     {CaptionList::MainToolbar, 6, u"Data Browser ", u"数据浏览器"},
-    {CaptionList::MainToolbar, 7, u"Add New Waveform ", u"添加波形窗口"},
-    {CaptionList::MainToolbar, 14, u"Connection Status-[Connected]", u"连接状态-[已连接]"},
     {CaptionList::SheetNames, 1, u"Untitle", u"未标题"},
     {CaptionList::CtrlList, 1, u"     Upload", u"      上传 ."},
-    {CaptionList::OpenDocument, 0, u"New Document", u"打开文档"},
     {CaptionList::Wave, 6, u"B&&W", u"黑白"},
-    {CaptionList::Wave, 14, u"     Preview", u"         预览 ."},
-    {CaptionList::Measure, 3, u"Fail  ", u"失败 .  "},
     {CaptionList::Measure, 8, u"Pass&Fail", u"通过&失败"},
-    {CaptionList::VirtualPanel, 5, u"Export  ", u"导出     "},
-    {CaptionList::VirtualPanel, 8, u"Run", u"运行"},
-    {CaptionList::VirtualPanel, 12, u"Print Preview", u"预览"},
-    {CaptionList::MemoryWave, 18, u"     Refresh", u"     更新"},
-    {CaptionList::RecordPlay, 0, u"Open record file", u"打开波形录制文件"},
-    {CaptionList::RecordPlay, 7, u"Pause", u"暂停"},
-    {CaptionList::RecordPlay, 9, u"Go to start", u"指向第一帧"},
     {CaptionList::RecordPlay, 15, u"Please open the waveform record file.",
      u"Please open the waveform record file."},
-    {CaptionList::RecordPlay, 16, u"Replaying", u"正在回放"},
-    {CaptionList::RecordPlay, 17, u"/", u"/"},
     {CaptionList::MemoryWaveFileMenu, 1, u" File", u"文件 ."},
     {CaptionList::ValueWords, 9, u"AC", u"市电"},
-    {CaptionList::ValueWords, 38, u"HALF", u"半屏"},
-    {CaptionList::ValueWordsSecond, 66, u"CH3CH4", u"CH3CH4"},
     {CaptionList::NodeNames, 80, u"Anti-aliasing", u"Anti-aliasing"},
-    {CaptionList::NodeNames, 89, u"Display", u"显示系统"},
-    {CaptionList::ResourceDialog, 1, u"Resource ", u"当前系统中的资源"},
 };
 
 TEST(CaptionLists, KeepLiteralsAndPairByMeaning)

@@ -70,19 +70,4 @@ TEST(LevelQuerySeam, DefaultAnswersNothing)
     SetLevelQuery(previous);
 }
 
-TEST(ProbeScaleToOneX, TextsOutsideTheRatiosListGiveTheTopStep)
-{
-    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("3.00V"), QStringLiteral("10X")), QStringLiteral("10.0V"));
-    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("2.00mV"), QStringLiteral("10X")), QStringLiteral("10.0V"));
-    // Only the scale-text spelling is a list entry, not the Volt/Div list's "2kV".
-    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("2kV"), QStringLiteral("1000X")), QStringLiteral("10.0V"));
-    EXPECT_EQ(ProbeScaleToOneX(QString(), QStringLiteral("2X")), QStringLiteral("10.0V"));
-}
-
-TEST(ProbeScaleToOneX, UncoveredProbesLeaveTheText)
-{
-    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("200uV"), QStringLiteral("0.1X")), QStringLiteral("200uV"));
-    EXPECT_EQ(ProbeScaleToOneX(QStringLiteral("1.00V"), QString()), QStringLiteral("1.00V"));
-}
-
 } // namespace

@@ -6,15 +6,6 @@
 
 namespace {
 
-TEST(StripAtLineFeed, KeepsWhatComesBeforeTheFirstLineFeed)
-{
-    EXPECT_EQ(StripAtLineFeed(QStringLiteral("RUN")), QStringLiteral("RUN"));
-    EXPECT_EQ(StripAtLineFeed(QString()), QString());
-    EXPECT_EQ(StripAtLineFeed(QStringLiteral("a\nb\n")), QStringLiteral("a"));
-    EXPECT_EQ(StripAtLineFeed(QStringLiteral("\n")), QString());
-    EXPECT_EQ(StripAtLineFeed(QStringLiteral("a\r\nb")), QStringLiteral("a\r"));
-}
-
 TEST(Val, ReportsNumbersBeyondTheDoubleRange)
 {
     bool inRange = true;

@@ -228,6 +228,8 @@ TEST_F(ExportedCalls, SessionAttributesHaveTheirStandardValuesAndWidths)
                         {VI_ATTR_TERMCHAR, 1, '\n'},
                         {VI_ATTR_SEND_END_EN, 2, VI_TRUE},
                         {VI_ATTR_TCPIP_NODELAY, 2, VI_TRUE},
+                        {VI_ATTR_TCPIP_KEEPALIVE, 2, VI_FALSE},
+                        {VI_ATTR_TERMCHAR_EN, 2, VI_FALSE},
                         {VI_ATTR_TMO_VALUE, 4, 50},
                         {VI_ATTR_RSRC_LOCK_STATE, 4, VI_NO_LOCK},
                         {VI_ATTR_IO_PROT, 2, VI_PROT_NORMAL},
@@ -251,6 +253,9 @@ TEST_F(ExportedCalls, SessionAttributesHaveTheirStandardValuesAndWidths)
         EXPECT_EQ(v.viGetAttribute(session, textIds[i], text), VI_SUCCESS) << texts[i][0];
         EXPECT_STREQ(text, texts[i][1]) << texts[i][0];
     }
+    char name[VI_FIND_BUFLEN] = "";
+    EXPECT_EQ(v.viGetAttribute(session, VI_ATTR_RSRC_NAME, name), VI_SUCCESS);
+    EXPECT_EQ(name, peer.socketResource());
 }
 
 TEST_F(ExportedCalls, ParsingAndLockingFollowTheStandard)

@@ -8,19 +8,6 @@ static void PrintTo(CursorId id, std::ostream* os)
 
 namespace {
 
-struct HitCase {
-    const char* name;
-    bool xShown, yShown, split;
-    double zoom;
-    QPointF at;
-    std::optional<CursorId> vertical, horizontal;
-};
-
-void PrintTo(const HitCase& c, std::ostream* os)
-{
-    *os << c.name;
-}
-
 // X1 and X2 4 pixels apart at 100 and 104, Y1 and Y2 at 60 and 64; lower set at
 // X3 100, X4 104, Y3 160, Y4 164.
 CursorState crowded(bool xShown, bool yShown)
@@ -37,42 +24,29 @@ CursorState crowded(bool xShown, bool yShown)
     return c;
 }
 
-class HitCursorsTest : public ::testing::TestWithParam<HitCase> {};
-
-TEST_P(HitCursorsTest, FirstCursorWithinThreePixelsWins)
+// Every row of data/cursorhits.txt: the first cursor within three pixels wins,
+// one of each direction; on a split screen the lower set is tested from the
+// middle row 25 + 100z down, and never on a full screen.
+TEST(HitCursors, FirstCursorWithinThreePixelsWins)
 {
-    const HitCase& t = GetParam();
-    const CursorHit hit = HitCursors(crowded(t.xShown, t.yShown), t.at, CursorGeometry{t.zoom, t.split});
-    EXPECT_EQ(hit.vertical, t.vertical);
-    EXPECT_EQ(hit.horizontal, t.horizontal);
+    const auto id = [](const QString& name) {
+        return name == u'-' ? std::optional<CursorId>()
+                            : std::optional(CursorId((name[0] == u'Y' ? 4 : 0) + name.mid(1).toInt() - 1));
+    };
+    const std::vector<QStringList> rows = DataRows("wave/data/cursorhits.txt");
+    EXPECT_EQ(rows.size(), 17u);
+    for (const QStringList& f : rows) {
+        ASSERT_EQ(f.size(), 9) << f.join(u' ').toStdString();
+        SCOPED_TRACE(f[0].toStdString());
+        const CursorHit hit =
+            HitCursors(crowded(f[1] == u'1', f[2] == u'1'), {f[5].toDouble(), f[6].toDouble()},
+                       CursorGeometry{f[4].toDouble(), f[3] == u'1'});
+        EXPECT_EQ(hit.vertical, id(f[7]));
+        EXPECT_EQ(hit.horizontal, id(f[8]));
+    }
 }
 
-constexpr auto X1 = CursorId::X1, X2 = CursorId::X2, X3 = CursorId::X3, X4 = CursorId::X4;
-constexpr auto Y1 = CursorId::Y1, Y2 = CursorId::Y2, Y3 = CursorId::Y3, Y4 = CursorId::Y4;
-const std::optional<CursorId> None;
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, HitCursorsTest,
-    ::testing::Values(HitCase{"WithinBothTakesX1", true, true, false, 1, {102, 200}, X1, None},
-                      HitCase{"ThreeFromX1TakesX2", true, true, false, 1, {103, 200}, X2, None},
-                      HitCase{"JustInside", true, true, false, 1, {97.01, 200}, X1, None},
-                      HitCase{"JustOutside", true, true, false, 1, {97, 200}, None, None},
-                      HitCase{"PastX2", true, true, false, 1, {107, 200}, None, None},
-                      HitCase{"OneOfEachInOnePress", true, true, false, 1, {101, 62}, X1, Y1},
-                      HitCase{"Y2", true, true, false, 1, {200, 66}, None, Y2},
-                      HitCase{"NoVerticalWithCursorXOff", false, true, false, 1, {101, 62}, None, Y1},
-                      HitCase{"NoHorizontalWithCursorYOff", true, false, false, 1, {101, 62}, X1, None},
-                      HitCase{"NothingShown", false, false, false, 1, {101, 62}, None, None},
-                      // Full screen: the lower set is never tested.
-                      HitCase{"LowerSetOnlyWhenSplit", true, true, false, 1, {200, 161}, None, None},
-                      // Split: from the middle row 25 + 100z down the lower set is tested instead.
-                      HitCase{"SplitUpper", true, true, true, 1, {101, 62}, X1, Y1},
-                      HitCase{"SplitMiddleRowIsLower", true, true, true, 1, {103, 125}, X4, None},
-                      HitCase{"SplitLower", true, true, true, 1, {101, 161}, X3, Y3},
-                      HitCase{"SplitLowerY4", true, true, true, 1, {200, 166}, None, Y4},
-                      HitCase{"SplitZoom2StillUpper", true, true, true, 2, {101, 224}, X1, None},
-                      HitCase{"SplitZoom2Lower", true, true, true, 2, {101, 225}, X3, None}),
-    [](const auto& info) { return std::string(info.param.name); });
+constexpr auto X1 = CursorId::X1, X2 = CursorId::X2, Y1 = CursorId::Y1;
 
 TEST(CursorMouse, PressDragReleaseMovesTheTakenCursorsOnly)
 {

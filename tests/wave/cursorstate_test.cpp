@@ -51,86 +51,27 @@ TEST(CursorState, SecondAndFourthRowsHoldWholeSixteenBitNumbers)
     EXPECT_EQ(c.CursorY3, 100.5);
 }
 
-struct ClampCase {
-    const char* name;
-    double zoom;
-    bool split;
-    bool xShown, yShown;
-    std::vector<double> before; // X1..X4, Y1..Y4
-    std::vector<double> after;
-};
-
-void PrintTo(const ClampCase& c, std::ostream* os)
+// Every row of data/clamp.txt: shown cursors are held two pixels inside their
+// grid, hidden ones stay where they are.
+TEST(ClampCursors, KeepsShownCursorsTwoPixelsInsideTheirGrid)
 {
-    *os << c.name;
+    const std::vector<QStringList> rows = DataRows("wave/data/clamp.txt");
+    EXPECT_EQ(rows.size(), 7u);
+    for (const QStringList& f : rows) {
+        ASSERT_EQ(f.size(), 21) << f.join(u' ').toStdString();
+        SCOPED_TRACE(f[0].toStdString());
+        CursorState c;
+        c.CursorXShown = f[3] == u'1';
+        c.CursorYShown = f[4] == u'1';
+        std::vector<double> after;
+        for (int i = 0; i < CursorCount; ++i) {
+            c.set(CursorId(i), f[5 + i].toDouble());
+            after.push_back(f[13 + i].toDouble());
+        }
+        ClampCursors(c, CursorGeometry{f[1].toDouble(), f[2] == u'1'});
+        EXPECT_EQ(positions(c), after);
+    }
 }
-
-class ClampCursorsTest : public ::testing::TestWithParam<ClampCase> {};
-
-TEST_P(ClampCursorsTest, KeepsShownCursorsTwoPixelsInsideTheirGrid)
-{
-    const ClampCase& t = GetParam();
-    CursorState c;
-    c.CursorXShown = t.xShown;
-    c.CursorYShown = t.yShown;
-    for (int i = 0; i < CursorCount; ++i)
-        c.set(CursorId(i), t.before[i]);
-    ClampCursors(c, CursorGeometry{t.zoom, t.split});
-    EXPECT_EQ(positions(c), t.after);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, ClampCursorsTest,
-    ::testing::Values(
-        // Full screen at 100%: 27 .. 323 across, 27 .. 223 down; the lower set is left alone.
-        ClampCase{"FullScreen",
-                  1,
-                  false,
-                  true,
-                  true,
-                  {0, 400, -9, 900, 0, 300, 500, -4},
-                  {27, 323, -9, 900, 27, 223, 500, -4}},
-        ClampCase{"Inside",
-                  1,
-                  false,
-                  true,
-                  true,
-                  {27, 323, 79, 270, 223, 27, 162.5, 254},
-                  {27, 323, 79, 270, 223, 27, 162.5, 254}},
-        ClampCase{
-            "Zoom2", 2, false, true, true, {26, 700, 0, 0, 26, 500, 0, 0}, {27, 623, 0, 0, 27, 423, 0, 0}},
-        // Split at 100%: the upper rows end at 123, the lower run 127 .. 223, and
-        // the lower vertical pair is held like the upper one.
-        ClampCase{"Split",
-                  1,
-                  true,
-                  true,
-                  true,
-                  {0, 400, -5, 330, 200, 124, 100, 300},
-                  {27, 323, 27, 323, 123, 123, 127, 223}},
-        ClampCase{"SplitZoomHalf",
-                  0.5,
-                  true,
-                  true,
-                  true,
-                  {0, 400, 0, 400, 100, 10, 0, 400},
-                  {27, 173, 27, 173, 73, 27, 77, 123}},
-        // Hidden cursors stay where they are.
-        ClampCase{"Hidden",
-                  1,
-                  true,
-                  false,
-                  false,
-                  {0, 400, 0, 400, 0, 400, 0, 400},
-                  {0, 400, 0, 400, 0, 400, 0, 400}},
-        ClampCase{"OnlyY",
-                  1,
-                  false,
-                  false,
-                  true,
-                  {0, 400, 0, 400, 0, 400, 0, 400},
-                  {0, 400, 0, 400, 27, 223, 0, 400}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(RescaleCursors, EachCursorKeepsItsRelativePlace)
 {

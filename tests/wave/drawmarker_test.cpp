@@ -1,9 +1,6 @@
 #include "drawtesting.h"
 #include "wave/drawmarker.h"
 
-#include <QFile>
-#include <QTextStream>
-
 namespace {
 
 Path shape(const QString& kind, double Y)
@@ -17,15 +14,9 @@ Path shape(const QString& kind, double Y)
 // and the halves CH2 and CH3 take by the source pair in alternate trigger.
 TEST(DrawChannelMarker, ShapeDigitAndLegendOfEveryCase)
 {
-    QFile file(QStringLiteral(SELVANE_TEST_DATA "/wave/data/channelmarkers.txt"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
-    QTextStream in(&file);
     int cases = 0;
-    while (!in.atEnd()) {
-        const QString line = in.readLine();
-        if (line.startsWith(u'#') || line.trimmed().isEmpty()) continue;
-        const QStringList f = line.split(u' ', Qt::SkipEmptyParts);
-        ASSERT_EQ(f.size(), 14) << line.toStdString();
+    for (const QStringList& f : DataRows("wave/data/channelmarkers.txt")) {
+        ASSERT_EQ(f.size(), 14) << f.join(u' ').toStdString();
         SCOPED_TRACE(f[0].toStdString());
         ++cases;
         const int channel = f[1].toInt();

@@ -3,49 +3,39 @@
 
 namespace {
 
-struct LegendCase {
-    const char* name;
-    const char* fft;
-    const char* mode;
-    int8_t fftScreen;
-    int8_t fftSource;
-    int16_t offset; // s16MathOffset, or s16FFTVertOffset with FFT on
-    double Y;       // top of the marker
-};
-
-class MathMarkerTest : public ::testing::TestWithParam<LegendCase> {};
-
-// m = 100 - offset, halved on a split screen, lifted 100z into the lower half;
-// Y = 25 + m z - 5 + lift.
-TEST_P(MathMarkerTest, PlacedByModeAndSpectrum)
+// The "m" marker at m = 100 - offset (s16FFTVertOffset with FFT on), halved on
+// a split screen and lifted 100z into the lower half: Y = 25 + m z - 5 + lift;
+// and the scale texts under the grid by operation.
+TEST(DrawMathLegend, Pictures)
 {
-    const LegendCase& c = GetParam();
-    WaveParameter p;
-    p.s8FFTScreen = c.fftScreen;
-    p.s8FFTSource = c.fftSource;
-    p.s16MathOffset = c.offset;
-    p.s16FFTVertOffset = c.offset;
-    RecordingSurface s;
-    DrawMathLegend(WaveCanvas(s, 1), p, QString::fromLatin1(c.mode), QString::fromLatin1(c.fft));
-    const double Y = c.Y;
-    EXPECT_EQ(PathOf(s.calls()), Closed({{6, Y}, {19, Y}, {23, Y + 5}, {19, Y + 10}, {6, Y + 10}}));
-    const std::vector<SurfaceCall> texts = TextsOf(s);
-    ASSERT_FALSE(texts.empty());
-    EXPECT_EQ(texts[0].text, QStringLiteral("m"));
-    EXPECT_EQ(texts[0].to, QPointF(9, Y - 3));
-    EXPECT_TRUE(texts[0].opaque);
+    const auto legend = [](const char* fft, const char* mode, int8_t fftScreen, int8_t fftSource,
+                           int16_t offset, int8_t operate = 0, int8_t scaleType = 0) {
+        return [=](RecordingSurface& s) {
+            WaveParameter p;
+            p.s8FFTScreen = fftScreen;
+            p.s8FFTSource = fftSource;
+            p.s16MathOffset = p.s16FFTVertOffset = offset;
+            p.s8MathOperate = operate;
+            p.s8FFTScaleType = scaleType;
+            p.f32MathScale = 0.5f;
+            p.f32FFTVrms = 2.0f;
+            p.s16FFTdBVrms = 20;
+            p.f32FFTHorizScale = 1000.0f;
+            DrawMathLegend(WaveCanvas(s, 1), p, QString::fromLatin1(mode), QString::fromLatin1(fft));
+        };
+    };
+    ExpectDrawings("mathlegend", {{"math-full", legend("OFF", "EDGE", 0, 0, 0)},
+                                  {"math-alt-lower", legend("OFF", "ALTERNATION", 0, 0, 0)},
+                                  {"fft-own-screen", legend("ON", "EDGE", 1, 0, 40)},
+                                  {"fft-shared-screen", legend("ON", "EDGE", 0, 0, 40)},
+                                  {"fft-alt-source-a", legend("ON", "ALTERNATION", 0, 0, 0)},
+                                  {"fft-alt-source-b", legend("ON", "ALTERNATION", 0, 1, 0)},
+                                  {"top-row", legend("OFF", "EDGE", 0, 0, 100)},
+                                  {"odd-row-halved", legend("OFF", "ALTERNATION", 0, 0, -1)},
+                                  {"product", legend("OFF", "EDGE", 0, 0, 0, 2)},
+                                  {"fft-vrms", legend("OFF", "EDGE", 0, 0, 0, 3, 0)},
+                                  {"fft-db", legend("OFF", "EDGE", 0, 0, 0, 3, 1)}});
 }
-
-INSTANTIATE_TEST_SUITE_P(Places, MathMarkerTest,
-                         ::testing::Values(LegendCase{"MathFull", "OFF", "EDGE", 0, 0, 0, 120},
-                                           LegendCase{"MathAltLower", "OFF", "ALTERNATION", 0, 0, 0, 170},
-                                           LegendCase{"FftOwnScreen", "ON", "EDGE", 1, 0, 40, 80},
-                                           LegendCase{"FftSharedScreen", "ON", "EDGE", 0, 0, 40, 150},
-                                           LegendCase{"FftAltSourceA", "ON", "ALTERNATION", 0, 0, 0, 70},
-                                           LegendCase{"FftAltSourceB", "ON", "ALTERNATION", 0, 1, 0, 170},
-                                           LegendCase{"TopRow", "OFF", "EDGE", 0, 0, 100, 20},
-                                           LegendCase{"OddRowHalved", "OFF", "ALTERNATION", 0, 0, -1, 170.5}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(DrawMathLegend, OutsideTheGridDrawsNothingAtAll)
 {
@@ -57,52 +47,6 @@ TEST(DrawMathLegend, OutsideTheGridDrawsNothingAtAll)
         EXPECT_TRUE(s.calls().empty()) << offset;
     }
 }
-
-struct LegendTextCase {
-    const char* name;
-    int8_t operate;
-    int8_t scaleType;
-    std::vector<std::pair<QPointF, QString>> texts; // after the "m"
-};
-
-class MathLegendTextTest : public ::testing::TestWithParam<LegendTextCase> {};
-
-TEST_P(MathLegendTextTest, TextsUnderTheGrid)
-{
-    const LegendTextCase& c = GetParam();
-    WaveParameter p;
-    p.s8MathOperate = c.operate;
-    p.s8FFTScaleType = c.scaleType;
-    p.f32MathScale = 0.5f;
-    p.f32FFTVrms = 2.0f;
-    p.s16FFTdBVrms = 20;
-    p.f32FFTHorizScale = 1000.0f;
-    RecordingSurface s;
-    DrawMathLegend(WaveCanvas(s, 1), p, QStringLiteral("EDGE"), QStringLiteral("OFF"));
-    std::vector<std::pair<QPointF, QString>> texts;
-    for (const SurfaceCall& t : TextsOf(s)) {
-        if (t.text == QLatin1String("m")) continue;
-        EXPECT_FALSE(t.opaque);
-        texts.emplace_back(t.to, t.text);
-    }
-    EXPECT_EQ(texts, c.texts);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Operations, MathLegendTextTest,
-    ::testing::Values(LegendTextCase{"Sum", 0, 0, {{{25, 249}, QStringLiteral("Math scale 500mV")}}},
-                      LegendTextCase{"Product", 2, 0, {{{25, 249}, QStringLiteral("Math scale 500mV2")}}},
-                      LegendTextCase{"FftVrms",
-                                     3,
-                                     0,
-                                     {{{25, 239}, QStringLiteral("FFT 2.00Vrms/div  ")},
-                                      {{175, 249}, QStringLiteral("1.000kHz/div")}}},
-                      LegendTextCase{"FftDb",
-                                     3,
-                                     1,
-                                     {{{25, 239}, QStringLiteral("FFT 20.0dBVrms/div ")},
-                                      {{175, 249}, QStringLiteral("1.000kHz/div")}}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(DrawMathTrace, ArrayWithoutMargin)
 {
@@ -130,36 +74,25 @@ TEST(DrawMathTrace, AlternateTriggerUsesSourceBInTheLowerHalf)
     EXPECT_EQ(s.calls().back().to, QPointF(37, 125 + 12.5));
 }
 
-struct FftWidthCase {
-    int16_t scale;
-    int width;
-    int right; // min(150 + width / 2 rounded, 299) with offset 0
-};
-
-class FftWidthTest : public ::testing::TestWithParam<FftWidthCase> {};
-
-// Offset 0: x0 = 175 (left 150), index 2; steps of 0.5 from 176 to right + 24.
-TEST_P(FftWidthTest, WidthSetsTheRightEnd)
+// The "fftwidth" rows of data/traces.txt: offset 0 puts x0 at 175 (left 150),
+// index 2; steps of 0.5 run from 176 to right + 24, the right end being
+// min(150 + width / 2 rounded, 299).
+TEST(DrawFftTrace, WidthSetsTheRightEnd)
 {
-    const FftWidthCase& c = GetParam();
-    EXPECT_EQ(FftWidth(c.scale), c.width);
-    WaveParameter p;
-    p.s16FFTHorizScale = c.scale;
-    p.s8FFTScreen = 1;
-    RecordingSurface s;
-    DrawFftTrace(WaveCanvas(s, 1), Ramp(2049), 600, p, QStringLiteral("EDGE"));
-    const std::vector<SurfaceCall>& calls = s.calls();
-    ASSERT_EQ(calls.size(), 1u + 2u * (c.right - 151) + 1u);
-    EXPECT_EQ(PathOf({calls[0]}), (Path{{175, 26}, {175, 27}}));
-    EXPECT_EQ(calls.back().to.x(), c.right + 25);
+    for (const QStringList& f : TraceRows("fftwidth", 4)) {
+        const int right = f[3].toInt();
+        EXPECT_EQ(FftWidth(int16_t(f[1].toInt())), f[2].toInt());
+        WaveParameter p;
+        p.s16FFTHorizScale = int16_t(f[1].toInt());
+        p.s8FFTScreen = 1;
+        RecordingSurface s;
+        DrawFftTrace(WaveCanvas(s, 1), Ramp(2049), 600, p, QStringLiteral("EDGE"));
+        const std::vector<SurfaceCall>& calls = s.calls();
+        ASSERT_EQ(calls.size(), 1u + 2u * (right - 151) + 1u);
+        EXPECT_EQ(PathOf({calls[0]}), (Path{{175, 26}, {175, 27}}));
+        EXPECT_EQ(calls.back().to.x(), right + 25);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Scales, FftWidthTest,
-                         ::testing::Values(FftWidthCase{0, 500, 299}, FftWidthCase{1, 5000, 299},
-                                           FftWidthCase{2, 2500, 299}, FftWidthCase{3, 1000, 299},
-                                           FftWidthCase{4, 500, 299}, FftWidthCase{5, 250, 275},
-                                           FftWidthCase{6, 100, 200}, FftWidthCase{7, 25, 162},
-                                           FftWidthCase{8, 500, 299}));
 
 TEST(DrawFftTrace, OffsetShiftsAndEndsTheSpectrum)
 {
@@ -177,38 +110,20 @@ TEST(DrawFftTrace, OffsetShiftsAndEndsTheSpectrum)
     EXPECT_EQ(PathOf(s.calls()), (Path{{25, 50}, {25, 51}}));
 }
 
-struct FftRowCase {
-    const char* name;
-    const char* mode;
-    int8_t fftSource;
-    bool modelHasBFlag;
-    int sample;
-    double y;
-};
-
-class FftRowTest : public ::testing::TestWithParam<FftRowCase> {};
-
-// Shared screen: y = y0 + min(s + c, 100) z, c 12.5 without the B flag.
-TEST_P(FftRowTest, SpectrumKeepsToItsHalf)
+// The "fftrow" rows of data/traces.txt: on a shared screen y = y0 + min(s + c,
+// 100) z, with c 12.5 without the model's B flag.
+TEST(DrawFftTrace, SpectrumKeepsToItsHalf)
 {
-    const FftRowCase& c = GetParam();
-    WaveParameter p;
-    p.s8FFTScreen = 0;
-    p.s8FFTSource = c.fftSource;
-    WaveArray fft(2049, c.sample);
-    RecordingSurface s;
-    DrawFftTrace(WaveCanvas(s, 1, c.modelHasBFlag), fft, 600, p, QString::fromLatin1(c.mode));
-    ASSERT_FALSE(s.calls().empty());
-    EXPECT_EQ(s.calls()[0].to.y(), c.y);
+    for (const QStringList& f : TraceRows("fftrow", 7)) {
+        SCOPED_TRACE(f[1].toStdString());
+        WaveParameter p;
+        p.s8FFTScreen = 0;
+        p.s8FFTSource = int8_t(f[3].toInt());
+        RecordingSurface s;
+        DrawFftTrace(WaveCanvas(s, 1, f[4] == u'1'), WaveArray(2049, f[5].toInt()), 600, p, f[2]);
+        ASSERT_FALSE(s.calls().empty());
+        EXPECT_EQ(s.calls()[0].to.y(), f[6].toDouble());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, FftRowTest,
-                         ::testing::Values(FftRowCase{"Lower", "EDGE", 0, true, 50, 175},
-                                           FftRowCase{"LowerLifted", "EDGE", 0, false, 50, 187.5},
-                                           FftRowCase{"LiftedCapped", "EDGE", 0, false, 95, 225},
-                                           FftRowCase{"Capped", "EDGE", 0, true, 150, 225},
-                                           FftRowCase{"AltSourceAUpper", "ALTERNATION", 0, true, 50, 75},
-                                           FftRowCase{"AltSourceBLower", "ALTERNATION", 1, true, 50, 175}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace

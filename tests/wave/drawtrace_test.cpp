@@ -68,49 +68,30 @@ TEST(DrawChannelTrace, StartRoundsHalfToEven)
     EXPECT_EQ(calls[0].from.x(), 27);
 }
 
-struct HalfCase {
-    const char* name;
-    const char* mode;
-    const char* fft;
-    int8_t fftScreen;
-    const char* pair;
-    int channel;
-    double y0;
-    int startIndex;
-};
-
-class TracePlacementTest : public ::testing::TestWithParam<HalfCase> {};
-
-// Rows are y0 + s / 2 on a split screen. In alternate trigger the channel takes
-// the positions of its source: A (start 4) upper, B (start 8) lower.
-TEST_P(TracePlacementTest, HalfAndPositions)
+// The "half" rows of data/traces.txt: rows are y0 + s / 2 on a split screen. In
+// alternate trigger the channel takes the positions of its source: A (start 4)
+// upper, B (start 8) lower.
+TEST(DrawChannelTrace, HalfAndPositions)
 {
-    const HalfCase& c = GetParam();
-    WaveParameter p = positions(0, 299);
-    p.s8FFTScreen = c.fftScreen;
-    p.s16ScrStartPosA = 4;
-    p.s16ScrEndPosA = 299;
-    p.s16ScrStartPosB = 8;
-    p.s16ScrEndPosB = 299;
-    const WaveArray wave = Ramp(2049);
-    const std::vector<SurfaceCall> calls = drawChannel(wave, 1, p, 600, c.fft, c.mode, c.channel, c.pair);
-    ASSERT_FALSE(calls.empty());
-    const int start = (c.startIndex - 214) / 2;
-    EXPECT_EQ(PathOf({calls[0]}), (Path{{25.0 + start, c.y0 + (c.startIndex - 1) % 200 / 2.0},
-                                        {25.0 + start, c.y0 + c.startIndex % 200 / 2.0}}));
+    for (const QStringList& f : TraceRows("half", 9)) {
+        SCOPED_TRACE(f[1].toStdString());
+        WaveParameter p = positions(0, 299);
+        p.s8FFTScreen = int8_t(f[4].toInt());
+        p.s16ScrStartPosA = 4;
+        p.s16ScrEndPosA = 299;
+        p.s16ScrStartPosB = 8;
+        p.s16ScrEndPosB = 299;
+        const QByteArray mode = f[2].toLatin1(), fft = f[3].toLatin1(),
+                         pair = f[5] == u'-' ? "" : f[5].toLatin1();
+        const std::vector<SurfaceCall> calls = drawChannel(Ramp(2049), 1, p, 600, fft.constData(),
+                                                           mode.constData(), f[6].toInt(), pair.constData());
+        ASSERT_FALSE(calls.empty());
+        const double y0 = f[7].toDouble();
+        const int index = f[8].toInt(), start = (index - 214) / 2;
+        EXPECT_EQ(PathOf({calls[0]}), (Path{{25.0 + start, y0 + (index - 1) % 200 / 2.0},
+                                            {25.0 + start, y0 + index % 200 / 2.0}}));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Halves, TracePlacementTest,
-    ::testing::Values(HalfCase{"SharedSpectrumUpper", "EDGE", "ON", 0, "", 2, 25, 214},
-                      HalfCase{"AltCh1Upper", "ALTERNATION", "OFF", 1, "CH1CH4", 1, 25, 222},
-                      HalfCase{"AltCh4Lower", "ALTERNATION", "OFF", 1, "CH1CH4", 4, 125, 230},
-                      HalfCase{"AltCh2UpperNotOrdered", "ALTERNATION", "OFF", 1, "CH2CH3", 2, 25, 222},
-                      HalfCase{"AltCh3LowerNotOrdered", "ALTERNATION", "OFF", 1, "CH2CH3", 3, 125, 230},
-                      HalfCase{"AltCh2LowerOrdered", "ALTERNATION", "OFF", 1, "CH1CH2", 2, 125, 230},
-                      HalfCase{"AltCh3UpperOrdered", "ALTERNATION", "OFF", 1, "CHANNEL3CHANNEL4", 3, 25,
-                               222}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(DrawChannelTrace, FullScreenWhenSpectrumHasItsOwnScreen)
 {
@@ -120,80 +101,41 @@ TEST(DrawChannelTrace, FullScreenWhenSpectrumHasItsOwnScreen)
     EXPECT_EQ(calls[0].to, QPointF(25, 25 + 14));
 }
 
-struct EndCase {
-    const char* name;
-    std::size_t arraySize;
-    int points;
-    std::size_t calls;
-};
-
-class TraceEndTest : public ::testing::TestWithParam<EndCase> {};
-
-TEST_P(TraceEndTest, EndsWhereTheArrayOrTheStepsEnd)
+// The "end" rows of data/traces.txt: the trace ends where the array or the steps end.
+TEST(DrawChannelTrace, EndsWhereTheArrayOrTheStepsEnd)
 {
-    const EndCase& c = GetParam();
-    EXPECT_EQ(drawChannel(Ramp(c.arraySize), 1, positions(0, 299), c.points).size(), c.calls);
+    for (const QStringList& f : TraceRows("end", 5))
+        EXPECT_EQ(drawChannel(Ramp(f[2].toUInt()), 1, positions(0, 299), f[3].toInt()).size(), f[4].toUInt())
+            << f[1].toStdString();
 }
-
-INSTANTIATE_TEST_SUITE_P(Ends, TraceEndTest,
-                         ::testing::Values(EndCase{"ShortArray", 300, 600, 1 + 85},
-                                           EndCase{"NoArray", 0, 600, 0},
-                                           EndCase{"OnlyIndex213", 214, 600, 0},
-                                           EndCase{"ZeroPoints", 2049, 0, 1},
-                                           EndCase{"NegativePoints", 2049, -600, 1},
-                                           EndCase{"ThreeHundredPoints", 2049, 300, 1 + 299}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(DrawChannelTrace, StartBeyondSixteenBitsDrawsNothing)
 {
     EXPECT_TRUE(drawChannel(Ramp(2049), 100, positions(400, 500)).empty());
 }
 
-// Peak halves: A = 10 + index % 7, B = 150 + index % 5; full screen, zoom 1,
-// positions 0 to 2: first index 213, steps at x = 26, 26.5, 27.
-TEST(DrawPeakTrace, EnvelopeLinesInOrder)
+// Peak halves A = 10 + index % 7 and B = 150 + index % 5 from index 213, positions
+// 0 to 2 at zoom 1 (steps at x 26, 26.5, 27): the first lines of each half and
+// the vertical between them, then per step A, B and the vertical at the last
+// x, and a closing vertical. Halved rows at zoom 2 with arrays that end at the
+// start index: no step and no closing vertical.
+TEST(DrawPeakTrace, Pictures)
 {
     WaveArray a(2049), b(2049);
     for (int i = 0; i < 2049; ++i) {
         a[i] = 10 + i % 7;
         b[i] = 150 + i % 5;
     }
-    const auto ya = [&](int i) { return 25.0 + a[i]; };
-    const auto yb = [&](int i) { return 25.0 + b[i]; };
-    RecordingSurface s;
-    DrawPeakTrace(WaveCanvas(s, 1), a, b, 600, 1, positions(0, 2), QStringLiteral("EDGE"),
-                  QStringLiteral("OFF"));
-    std::vector<Path> lines;
-    for (const SurfaceCall& c : s.calls())
-        lines.push_back({c.from, c.to});
-    std::vector<Path> expected{
-        {{25, ya(212)}, {25, ya(213)}}, {{25, yb(212)}, {25, yb(213)}}, {{25, yb(212)}, {25, ya(212)}}};
-    const double pxs[] = {26, 26, 27};
-    double prev = 25;
-    for (int k = 0; k < 3; ++k) {
-        const int i = 214 + k;
-        expected.push_back({{prev, ya(i - 1)}, {pxs[k], ya(i)}});
-        expected.push_back({{prev, yb(i - 1)}, {pxs[k], yb(i)}});
-        expected.push_back({{prev, yb(i - 1)}, {prev, ya(i - 1)}});
-        prev = pxs[k];
-    }
-    expected.push_back({{27, ya(216)}, {27, yb(216)}});
-    EXPECT_EQ(lines, expected);
-    for (const SurfaceCall& c : s.calls())
-        EXPECT_EQ(c.kind, SurfaceCall::Line);
-}
-
-TEST(DrawPeakEnvelope, HalfScaleAndEarlyEnd)
-{
-    // Half flag: rows y0 + s z / 2. The arrays end at the start index: no step, no closing vertical.
-    const WaveArray a{0, 0, 0, 0, 40, 60}, b{0, 0, 0, 0, 100, 120};
-    RecordingSurface s;
-    DrawPeakEnvelope(WaveCanvas(s, 2), a, b, 5, 30, 125, 299, 600, true);
-    std::vector<Path> lines;
-    for (const SurfaceCall& c : s.calls())
-        lines.push_back({c.from, c.to});
-    EXPECT_EQ(lines,
-              (std::vector<Path>{{{30, 165}, {30, 185}}, {{30, 225}, {30, 245}}, {{30, 225}, {30, 165}}}));
+    const WaveArray shortA{0, 0, 0, 0, 40, 60}, shortB{0, 0, 0, 0, 100, 120};
+    ExpectDrawings("peaktrace", {{"envelope",
+                                  [&](RecordingSurface& s) {
+                                      DrawPeakTrace(WaveCanvas(s, 1), a, b, 600, 1, positions(0, 2),
+                                                    QStringLiteral("EDGE"), QStringLiteral("OFF"));
+                                  }},
+                                 {"half-scale-early-end", [&](RecordingSurface& s) {
+                                      DrawPeakEnvelope(WaveCanvas(s, 2), shortA, shortB, 5, 30, 125, 299, 600,
+                                                       true);
+                                  }}});
 }
 
 } // namespace

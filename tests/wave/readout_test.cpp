@@ -4,23 +4,12 @@
 #include "wave/readout.h"
 #include "wave/wavecolors.h"
 
-static void PrintTo(const ReadoutLine& l, std::ostream* os)
-{
-    *os << '"' << l.text.toStdString() << "\" at (" << l.at.x() << ", " << l.at.y() << ") in "
-        << l.color.name().toStdString();
-}
-
 namespace {
-
-const QColor Time(255, 0, 255);
-const QColor CH1(255, 255, 0);
-const QColor CH2(0, 255, 255);
-const QColor Math(128, 0, 255);
 
 // A Y-T picture at 100% with both kinds of cursor shown at their start places
 // (X1 52, X2 297: 245 pixels; Y1 59, Y2 259: 200 pixels).
-struct ReadoutFixture : ::testing::Test {
-    ReadoutFixture()
+struct Readouts {
+    Readouts()
     {
         cursors.CursorXShown = cursors.CursorYShown = true;
         in.TimeScaleText = QStringLiteral("1.234ms");
@@ -37,28 +26,74 @@ struct ReadoutFixture : ::testing::Test {
     ReadoutInput in;
 };
 
-TEST_F(ReadoutFixture, FullScreenTimeThenTickedChannelsDownTheRight)
-{
-    // dT = 245 x 1.234ms x 12 / 300 = 12.0932ms, shown as "12.09ms"; the
-    // frequency is 1 / 12.09ms (82.71Hz), not 1 / 12.0932ms (82.69Hz).
-    EXPECT_EQ(lines(), (std::vector<ReadoutLine>{
-                           {QStringLiteral("|X1-X2|   =12.09ms"), Time, {185, 30}},
-                           {QStringLiteral("1/|X1-X2|=82.71Hz"), Time, {185, 50}},
-                           {QStringLiteral("|Y1-Y2|  =8.0V"), CH1, {185, 70}},
-                           {QStringLiteral("|Y1-Y2|  =1.6V"), CH2, {185, 90}},
-                       }));
-}
+struct ReadoutFixture : Readouts, ::testing::Test {};
 
-TEST_F(ReadoutFixture, CursorsAtOnePlaceGiveZeroTimeAndNoFrequency)
+// The readouts as drawn over the picture, each case a change to the start
+// above. Full screen: the time, then each ticked channel down the right; dT =
+// 245 x 1.234ms x 12 / 300 = 12.0932ms shows as "12.09ms" and the frequency is
+// 1 / 12.09ms (82.71Hz), not 1 / 12.0932ms (82.69Hz). X-Y reads volts on both
+// axes (9.8V across with CH1, 1.6V down with CH2). The spectrum's lines follow,
+// aligned to the right edge less 8 a character (the first 10 further right);
+// on a split screen the upper volts double and the spectrum reads the lower
+// pair (X3 79, X4 270; Y3 162.5, Y4 254). In alternate trigger each half takes
+// its time base (4.90ms; 38.20us from row 230) and no spectrum lines; without
+// B's time base the lower half keeps only its volts. Unreadable spectrum
+// scales show "????". Black on white, every text is grey.
+TEST(DisplayCursorM, Pictures)
 {
-    cursors.CursorX1 = cursors.CursorX2 = 140;
-    cursors.CursorY1 = cursors.CursorY2 = 140;
-    in.ChannelTicked = {false, false, false, true, false};
-    EXPECT_EQ(lines(), (std::vector<ReadoutLine>{
-                           {QStringLiteral("|X1-X2|   =0.000s"), Time, {185, 30}},
-                           {QStringLiteral("1/|X1-X2|=???.? Hz"), Time, {185, 50}},
-                           {QStringLiteral("|Y1-Y2|  =0.0mV"), ChannelColor(3, true), {185, 70}},
-                       }));
+    const auto readouts = [](std::function<void(Readouts&)> change) {
+        return [=](RecordingSurface& s) {
+            Readouts r;
+            change(r);
+            DrawReadouts(s, DisplayCursorM(r.cursors, r.in));
+        };
+    };
+    const auto spectrum = [](float horizScale, float vrms, int8_t scaleType, int16_t dbVrms) {
+        return [=](Readouts& r) {
+            r.cursors.CursorYShown = r.cursors.CursorXShown = true;
+            r.in = ReadoutInput{};
+            r.in.SpectrumShown = true;
+            r.in.f32FFTHorizScale = horizScale;
+            r.in.f32FFTVrms = vrms;
+            r.in.s8FFTScaleType = scaleType;
+            r.in.s16FFTdBVrms = dbVrms;
+            r.in.VrmsName = QStringLiteral("Vrms");
+        };
+    };
+    const auto alternation = [](bool timeB) {
+        return [=](Readouts& r) {
+            r.in.geometry = CursorGeometry{2, true};
+            r.in.Alternation = r.in.SpectrumShown = true;
+            r.in.TimeScaleAText = QStringLiteral("1.000ms");
+            r.in.TimeScaleBText = QLatin1String(timeB ? "10.00us" : "");
+        };
+    };
+    ExpectDrawings("readouts", {{"full-screen", readouts([](Readouts&) {})},
+                                {"cursors-at-one-place", readouts([](Readouts& r) {
+                                     r.cursors.CursorX1 = r.cursors.CursorX2 = r.cursors.CursorY1 =
+                                         r.cursors.CursorY2 = 140;
+                                     r.in.ChannelTicked = {false, false, false, true, false};
+                                 })},
+                                {"xy", readouts([](Readouts& r) { r.in.XYMode = true; })},
+                                {"spectrum", readouts([](Readouts& r) {
+                                     r.in.SpectrumShown = true;
+                                     r.in.ChannelTicked = {};
+                                 })},
+                                {"spectrum-split", readouts([](Readouts& r) {
+                                     r.in.geometry.SplitScreen = r.in.SpectrumShown = true;
+                                     r.in.ChannelTicked = {false, true, true, true, true};
+                                 })},
+                                {"alternation", readouts(alternation(true))},
+                                {"alternation-without-time-b", readouts(alternation(false))},
+                                {"spectrum-vrms", readouts(spectrum(250, 0.05f, 0, 0))},
+                                {"spectrum-decibels", readouts(spectrum(250, 0, 1, 10))},
+                                {"spectrum-no-horizontal-scale", readouts(spectrum(0, 0.05f, 0, 0))},
+                                {"spectrum-no-vrms-scale", readouts(spectrum(-1, 0, 0, 10))},
+                                {"spectrum-no-decibel-scale", readouts(spectrum(1e6f, 0.5f, 1, 0))},
+                                {"black-on-white", readouts([](Readouts& r) {
+                                     r.in.ColorMode = false;
+                                     r.in.SpectrumShown = true;
+                                 })}});
 }
 
 TEST_F(ReadoutFixture, HiddenCursorsAndAnEmptyTimeScaleLeaveTheirLinesOut)
@@ -72,125 +107,6 @@ TEST_F(ReadoutFixture, HiddenCursorsAndAnEmptyTimeScaleLeaveTheirLinesOut)
     EXPECT_EQ(lines().size(), 2u);
     cursors.CursorYShown = false;
     EXPECT_TRUE(lines().empty());
-}
-
-TEST_F(ReadoutFixture, XyModeReadsVoltsOnBothAxes)
-{
-    in.XYMode = true;
-    // 245 x 1V x 12 / 300 = 9.8V across with CH1; 200 x 0.2V x 8 / 200 = 1.6V down with CH2.
-    EXPECT_EQ(lines(), (std::vector<ReadoutLine>{
-                           {QStringLiteral("|X1-X2|  =9.8V"), CH1, {185, 30}},
-                           {QStringLiteral("|Y1-Y2|  =1.6V"), CH2, {185, 50}},
-                       }));
-    cursors.CursorXShown = false;
-    EXPECT_EQ(lines().size(), 1u);
-}
-
-TEST_F(ReadoutFixture, SpectrumLinesFollowAlignedToTheRight)
-{
-    in.SpectrumShown = true;
-    in.ChannelTicked = {};
-    // 245 x 1000Hz x 12 / 300 = 9800Hz; 200 x 0.5V x 8 / 200 = 4V. Right edge 325
-    // less 8 a character, the first line 10 further right.
-    const QString freq = QStringLiteral("FFT|X1-X2|   =9.800kHz");
-    const QString level = QStringLiteral("FFT|Y1-Y2|  =4.00Vrms");
-    const std::vector<ReadoutLine> l = lines();
-    ASSERT_EQ(l.size(), 4u);
-    EXPECT_EQ(l[2], (ReadoutLine{freq, Math, {325 - 8.0 * freq.size() + 10, 70}}));
-    EXPECT_EQ(l[3], (ReadoutLine{level, Math, {325 - 8.0 * level.size(), 90}}));
-}
-
-struct SpectrumCase {
-    const char* name;
-    float horizScale, vrms;
-    int8_t scaleType;
-    int16_t dbVrms;
-    const char* freqLine;
-    const char* levelLine;
-};
-
-void PrintTo(const SpectrumCase& c, std::ostream* os)
-{
-    *os << c.name;
-}
-
-class SpectrumReadoutTest : public ::testing::TestWithParam<SpectrumCase> {};
-
-TEST_P(SpectrumReadoutTest, Texts)
-{
-    const SpectrumCase& t = GetParam();
-    CursorState cursors; // X 245 pixels apart, Y 200
-    ReadoutInput in;
-    in.SpectrumShown = true;
-    in.f32FFTHorizScale = t.horizScale;
-    in.f32FFTVrms = t.vrms;
-    in.s8FFTScaleType = t.scaleType;
-    in.s16FFTdBVrms = t.dbVrms;
-    in.VrmsName = QStringLiteral("Vrms");
-    const std::vector<ReadoutLine> l = DisplayCursorM(cursors, in);
-    ASSERT_EQ(l.size(), 2u);
-    EXPECT_EQ(l[0].text, QString::fromLatin1(t.freqLine));
-    EXPECT_EQ(l[1].text, QString::fromLatin1(t.levelLine));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, SpectrumReadoutTest,
-    ::testing::Values(
-        SpectrumCase{"Vrms", 250, 0.05f, 0, 0, "FFT|X1-X2|   =2.450kHz", "FFT|Y1-Y2|  =400mVrms"},
-        SpectrumCase{"Decibels", 250, 0, 1, 10, "FFT|X1-X2|   =2.450kHz", "FFT|Y1-Y2|  =80.0dBVrms"},
-        SpectrumCase{"NoHorizontalScale", 0, 0.05f, 0, 0, "FFT|X1-X2|   =????", "FFT|Y1-Y2|  =400mVrms"},
-        SpectrumCase{"NoVrmsScale", -1, 0, 0, 10, "FFT|X1-X2|   =????", "FFT|Y1-Y2|  =????"},
-        SpectrumCase{"NoDecibelScale", 1e6f, 0.5f, 1, 0, "FFT|X1-X2|   =9.800MHz", "FFT|Y1-Y2|  =????"}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(ReadoutFixture, SpectrumSplitDoublesTheUpperVoltsAndReadsTheSpectrumBelow)
-{
-    in.geometry.SplitScreen = true;
-    in.SpectrumShown = true;
-    in.ChannelTicked = {false, true, true, true, true};
-    // Lower set: X3 79, X4 270 (191 pixels: 7640Hz), Y3 162.5, Y4 254 (91.5 pixels: 1.83V).
-    const QString freq = QStringLiteral("FFT|X1-X2|   =7.640kHz");
-    const QString level = QStringLiteral("FFT|Y1-Y2|  =1.83Vrms");
-    EXPECT_EQ(lines(), (std::vector<ReadoutLine>{
-                           {QStringLiteral("|X1-X2|   =12.09ms"), Time, {185, 30}},
-                           {QStringLiteral("1/|X1-X2|=82.71Hz"), Time, {185, 50}},
-                           {QStringLiteral("|Y1-Y2|  =16.0V"), CH1, {185, 70}},
-                           {QStringLiteral("|Y1-Y2|  =3.2V"), CH2, {185, 90}},
-                           {freq, Math, {325 - 8.0 * freq.size() + 10, 130}},
-                           {level, Math, {325 - 8.0 * level.size(), 150}},
-                       }));
-}
-
-TEST_F(ReadoutFixture, AlternationGivesEachHalfItsTimeBase)
-{
-    in.geometry = CursorGeometry{2, true};
-    in.Alternation = true;
-    in.TimeScaleAText = QStringLiteral("1.000ms");
-    in.TimeScaleBText = QStringLiteral("10.00us");
-    in.SpectrumShown = true; // no spectrum lines in alternate trigger
-    // Upper: 245 px x 1ms x 12 / 300 / 2 = 4.9ms; 200 px x 1V x 8 / 200 / 2 x 2 = 8V.
-    // Lower from row 25 + 200 + 5: 191 px x 10us ... = 38.2us; 91.5 px x 0.2V ... x 2 = 732mV.
-    EXPECT_EQ(lines(), (std::vector<ReadoutLine>{
-                           {QStringLiteral("|X1-X2|   =4.90ms"), Time, {485, 30}},
-                           {QStringLiteral("1/|X1-X2|=204.08Hz"), Time, {485, 50}},
-                           {QStringLiteral("|Y1-Y2|  =8.0V"), CH1, {485, 70}},
-                           {QStringLiteral("|X1-X2|   =38.20us"), Time, {485, 230}},
-                           {QStringLiteral("1/|X1-X2|=26.18KHz"), Time, {485, 250}},
-                           {QStringLiteral("|Y1-Y2|  =732.0mV"), CH2, {485, 270}},
-                       }));
-    in.TimeScaleBText.clear();
-    const std::vector<ReadoutLine> l = lines();
-    ASSERT_EQ(l.size(), 4u);
-    EXPECT_EQ(l[3].text, QStringLiteral("|Y1-Y2|  =732.0mV"));
-    EXPECT_EQ(l[3].at, QPointF(485, 230));
-}
-
-TEST_F(ReadoutFixture, BlackOnWhiteTextsAreGrey)
-{
-    in.ColorMode = false;
-    in.SpectrumShown = true;
-    for (const ReadoutLine& l : lines())
-        EXPECT_EQ(l.color, QBColor(7)) << l.text.toStdString();
 }
 
 TEST_F(ReadoutFixture, UnreadableNumbersNeverStopTheReadouts)
