@@ -1,7 +1,8 @@
 #include "frame/frmMain.h"
 #include "frame/frmStartup.h"
-#include "text/productinfo.h"
+#include "platform/runtimedir.h"
 #include "platform/widgetsplatform.h"
+#include "text/productinfo.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -11,6 +12,7 @@ int main(int argc, char** argv)
 {
     QElapsedTimer sinceStart;
     sinceStart.start();
+    SetPrivateRuntimeDir();
     QApplication app(argc, argv);
     QApplication::setApplicationName(ProgramTitle);
     QApplication::setOrganizationName(ProgramTitle);
