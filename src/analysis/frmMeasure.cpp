@@ -5,8 +5,9 @@
 #include "analysis/frmPassFailed.h"
 #include "analysis/measurejudge.h"
 #include "analysis/readmeasure.h"
-#include "platform/platform.h"
 #include "document/sheetstate.h"
+#include "platform/platform.h"
+#include "settings/softwaresettings.h"
 #include "text/language.h"
 
 #include <QComboBox>
@@ -26,7 +27,7 @@ namespace {
 TableWindowBase::WindowTable MeasureForms;
 
 constexpr int ColumnCount = 5;
-constexpr int ViewMargin = 200;
+constexpr int ViewMargin = 200 / TwipsPerPixel; // 200 twips
 
 bool validSlot(int slot)
 {

@@ -92,6 +92,7 @@ int main(int argc, char** argv)
              {"AddNewWaveform", "AddNewMeasure", "AddNewData", "AddNewMemoryWaveform", "AddNewRecord"})
             trigger(window.get(), add);
         window->ctrlList()->findChild<QPushButton*>(QStringLiteral("cmdDownload"))->click();
+        window->ctrlList()->mnuExpand_Click();
         auto* sheet = window->findChild<QDockWidget*>(QStringLiteral("DataSheet"));
         auto* pane = window->findChild<QDockWidget*>(QStringLiteral("Controller"));
         window->resizeDocks({sheet, pane}, {200, 600}, Qt::Vertical);
