@@ -27,7 +27,6 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QDockWidget>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMdiSubWindow>
