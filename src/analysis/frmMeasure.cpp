@@ -8,6 +8,7 @@
 #include "document/programiconwidgets.h"
 #include "document/sheetstate.h"
 #include "platform/platform.h"
+#include "settings/softwaresettings.h"
 #include "text/language.h"
 
 #include <QComboBox>
@@ -27,7 +28,7 @@ namespace {
 TableWindowBase::WindowTable MeasureForms;
 
 constexpr int ColumnCount = 5;
-constexpr int ViewMargin = 200;
+constexpr int ViewMargin = 200 / TwipsPerPixel; // 200 twips
 
 bool validSlot(int slot)
 {

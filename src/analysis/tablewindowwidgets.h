@@ -4,6 +4,7 @@
 // refresh and export buttons, the legend label, and the refresh loop with its
 // two timers. The window holds its slot number as its tag.
 
+#include "document/childwindowwidgets.h"
 #include "text/captions.h"
 
 #include <QMdiArea>
@@ -79,7 +80,6 @@ template <typename Window> Window* CreateTableWindow(QMdiArea* area, int slot)
 {
     if (!area || slot < 0 || slot >= TableWindowBase::SlotCount) return nullptr;
     auto* window = new Window(slot);
-    area->addSubWindow(window)->setWindowIcon(window->windowIcon());
-    window->show();
+    ShowChildWindow(window, area, QString());
     return window;
 }

@@ -1,6 +1,7 @@
 #include "document/programiconwidgets.h"
 #include "frame/frmMain.h"
 #include "frame/frmStartup.h"
+#include "platform/runtimedir.h"
 #include "platform/widgetsplatform.h"
 #include "text/productinfo.h"
 
@@ -12,6 +13,7 @@ int main(int argc, char** argv)
 {
     QElapsedTimer sinceStart;
     sinceStart.start();
+    SetPrivateRuntimeDir();
     QApplication app(argc, argv);
     QApplication::setApplicationName(ProgramTitle);
     QApplication::setOrganizationName(ProgramTitle);

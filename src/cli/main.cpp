@@ -1,13 +1,10 @@
 #include "cli/subcommands.h"
 #include "platform/cliplatform.h"
+#include "platform/runtimedir.h"
 
 #include <QCommandLineParser>
-#include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <cstdio>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -55,22 +52,6 @@ QString subcommandList()
     return text;
 }
 
-// Without XDG_RUNTIME_DIR (a service, a container, ssh without a session) Qt
-// warns on every start. A private folder of our own, kept between runs like
-// Qt's own fallback, keeps stderr for our messages; one we can't trust is left
-// to Qt.
-void setPrivateRuntimeDir()
-{
-    if (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) return;
-    const QByteArray path =
-        QFile::encodeName(QDir::tempPath()) + "/selvane-runtime-" + QByteArray::number(::getuid());
-    ::mkdir(path.constData(), 0700);
-    struct stat info = {};
-    if (::lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == ::getuid() &&
-        (info.st_mode & 0777) == 0700)
-        qputenv("XDG_RUNTIME_DIR", path);
-}
-
 int usageError(const QString& text)
 {
     std::fprintf(stderr, "selvane-cli: %s\nTry 'selvane-cli --help'.\n", qPrintable(text));
@@ -83,7 +64,7 @@ int main(int argc, char** argv)
 {
     // Pictures are drawn with text, which needs a GUI application; no display is needed.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    setPrivateRuntimeDir();
+    SetPrivateRuntimeDir();
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName("selvane-cli");
     QCoreApplication::setApplicationVersion("00.01.05.00.00");

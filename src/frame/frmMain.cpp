@@ -54,6 +54,9 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
     MdiArea = new QMdiArea(this);
     MdiArea->setObjectName("MdiArea");
     MdiArea->setBackground(QColor(128, 128, 128));
+    // Child windows open at their whole size; in a small main window the area scrolls to them.
+    MdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    MdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(MdiArea);
     createMenus();
     createToolBar();

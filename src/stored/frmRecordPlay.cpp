@@ -226,8 +226,7 @@ frmRecordPlay* CreateRecordPlayWindow(QMdiArea* area, int slot)
     if (!RecordSlotAt(slot)) return nullptr;
     auto* window = new frmRecordPlay(slot);
     window->setWindowTitle(RecordCaption(RecordSlots[size_t(slot)]));
-    if (QMdiSubWindow* child = ShowChildWindow(window, area, QStringLiteral("RecordPlayChild")))
-        child->resize(child->sizeHint());
+    ShowChildWindow(window, area, QStringLiteral("RecordPlayChild"));
     return window;
 }
 

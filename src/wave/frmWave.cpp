@@ -106,8 +106,7 @@ WaveRecord& frmWave::record() const
 
 void frmWave::buildControls()
 {
-    auto* side = buildSidePanel();
-    side->setGeometry(0, 0, PaneLeft, 2000);
+    SidePanel = buildSidePanel();
     const PictureArea area = BuildPictureArea(this, QStringLiteral("WavePic"));
     BackPic = area.BackPic;
     WavePic = area.picture;
@@ -129,7 +128,18 @@ void frmWave::buildControls()
     picStopOver = imageHolder(this, "picStopOver", true, false);
     Timer1 = named(new QTimer(this), "Timer1");
     Timer2 = named(new QTimer(this), "Timer2");
-    resize(520, 440);
+}
+
+int frmWave::paneLeft() const
+{
+    return std::max(PaneLeft, SidePanel->minimumSizeHint().width());
+}
+
+QSize frmWave::sizeHint() const
+{
+    const QSize picture = PictureSizeAt(1.0) + 2 * QSize(BackPic->frameWidth(), BackPic->frameWidth());
+    return {paneLeft() + picture.width(),
+            std::max(SidePanel->minimumSizeHint().height(), PaneTop + picture.height())};
 }
 
 QWidget* frmWave::buildSidePanel()
@@ -229,6 +239,10 @@ void frmWave::SetCaptions(int language)
                    {"cmdRefresh", 15, CaptionRole::ToolTip},
                    {"cmdPreview", 16, CaptionRole::ToolTip}},
                   language);
+    // The other language's captions may need a wider column.
+    updateGeometry();
+    SidePanel->setGeometry(0, 0, paneLeft(), height());
+    if (!firstRun_) Form_Resize();
 }
 
 void frmWave::Form_Load()

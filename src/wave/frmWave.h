@@ -65,6 +65,9 @@ class frmWave : public QWidget, public PrintablePicture {
     void ShowRefreshProgress(bool visible);
     void ShowRefreshPercent(int percent);
 
+    // Room for the controls and the picture at 100 %.
+    QSize sizeHint() const override;
+
     double zoom() const { return Zoom; }
     // The picture as shown (traces, cursors and readouts).
     QImage picture() const;
@@ -95,6 +98,8 @@ class frmWave : public QWidget, public PrintablePicture {
     void followInstrumentDisplays();
     void makeRefreshLoop();
     void setRefreshImages(bool stopPair);
+    // The picture's pane starts where the controls' column ends.
+    int paneLeft() const;
     void placeScrollBars(const struct WaveViewLayout& layout);
     void placeProgressStrip();
     void paintProgressStrip();
@@ -103,6 +108,7 @@ class frmWave : public QWidget, public PrintablePicture {
     ChannelBoxes channelBoxes() const;
     void setChannelBoxes(const ChannelBoxes& boxes);
 
+    QWidget* SidePanel;
     QFrame* BackPic;
     WavePicture* WavePic;
     QScrollBar* HScroll;

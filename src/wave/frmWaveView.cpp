@@ -31,6 +31,7 @@ namespace {
 void frmWave::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    SidePanel->setGeometry(0, 0, paneLeft(), height());
     if (!printing_) Form_Resize();
 }
 
@@ -39,8 +40,8 @@ void frmWave::Form_Resize()
     HScroll->hide();
     VScroll->hide();
     const WaveRecord& r = record();
-    const WaveViewLayout layout =
-        LayoutWaveView({size(), BackPic->geometry(), BackPic->frameWidth(), Zoom, r.BestFit, firstRun_});
+    const WaveViewLayout layout = LayoutWaveView(
+        {size(), BackPic->geometry(), BackPic->frameWidth(), Zoom, r.BestFit, firstRun_, paneLeft()});
     BackPic->setGeometry(layout.pane);
     if (r.BestFit) {
         Zoom = layout.zoom;

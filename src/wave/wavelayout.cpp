@@ -60,10 +60,10 @@ WaveViewLayout LayoutWaveView(const WaveViewInput& input)
     WaveViewLayout layout;
     layout.zoom = input.zoom;
     layout.pane = input.currentPane;
-    const int width = input.inner.width() - PaneLeft;
+    const int width = input.inner.width() - input.paneLeft;
     const int height = input.inner.height() - PaneTop;
     if (width >= 0 && height >= 0) {
-        layout.pane = QRect(PaneLeft, PaneTop, width, height);
+        layout.pane = QRect(input.paneLeft, PaneTop, width, height);
         layout.paneMoved = true;
     }
     if (input.bestFit) {

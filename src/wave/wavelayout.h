@@ -24,7 +24,8 @@ struct WaveViewInput {
     int paneFrame = 0; // width of the pane's border on each side
     double zoom = 1;
     bool bestFit = false;
-    bool firstRun = true; // before the first Timer1 run the picture keeps its size
+    bool firstRun = true;    // before the first Timer1 run the picture keeps its size
+    int paneLeft = PaneLeft; // wider when the controls' captions need more room
 };
 
 struct WaveViewLayout {

@@ -53,6 +53,11 @@ void WaveWindowTest::resizeInner(QSize inner)
     QCoreApplication::processEvents();
 }
 
+int WaveWindowTest::paneLeft() const
+{
+    return window->findChild<QWidget*>(QStringLiteral("BackPic"))->x();
+}
+
 QStringList WaveWindowTest::boxTexts() const
 {
     QStringList texts;

@@ -23,6 +23,8 @@ class WaveWindowTest : public ::testing::Test {
     QStringList boxTexts() const;
     // Gives the window this inner size through its MDI child window.
     void resizeInner(QSize inner);
+    // Where the picture's pane starts: right of the controls' column.
+    int paneLeft() const;
 
     template <typename T> T* control(const char* name) const
     {

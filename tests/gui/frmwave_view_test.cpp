@@ -3,8 +3,8 @@
 #include "frmwave_fixture.h"
 
 #include "acquire/waverecord.h"
-#include "link/linkstate.h"
 #include "document/sheetstate.h"
+#include "link/linkstate.h"
 #include "wave/wavechannels.h"
 #include "wave/waverefresh.h"
 
@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ZoomEntry,
 TEST_F(WaveWindowTest, BestFitInATinyWindowGivesOnePercent)
 {
     frmWave& wave = open();
-    resizeInner({73 + 3, 10});
+    resizeInner({paneLeft() + 3, 10});
     control<QCheckBox>("BestFitChk")->click();
 
     EXPECT_TRUE(WaveRecords[0].BestFit);
@@ -78,7 +78,7 @@ TEST_F(WaveWindowTest, BestFitFollowsTheWindowAndUntickingKeepsTheZoom)
     frmWave& wave = open();
     auto* best = control<QCheckBox>("BestFitChk");
     best->click();
-    resizeInner({73 + 700 + 2, 7 + 500 + 2});
+    resizeInner({paneLeft() + 700 + 2, 7 + 500 + 2});
     EXPECT_DOUBLE_EQ(wave.zoom(), 2.0);
     EXPECT_FALSE(control<QScrollBar>("HScroll")->isVisible());
 
