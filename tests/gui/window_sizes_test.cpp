@@ -1,7 +1,7 @@
 // Every child window and dialog opens at a size that shows all its controls and
 // its picture, with no caption cut, in both languages; sheet windows cascade
 // inside the main window's area.
-#include "fakeinstrument.h"
+#include "fakevisa.h"
 #include "frmwave_fixture.h"
 
 #include "analysis/frmData.h"
@@ -148,7 +148,7 @@ void settle(const std::function<bool()>& done, int ms = 5000)
 
 class WindowSizes : public WaveWindowTest, public ::testing::WithParamInterface<std::tuple<WindowKind, int>> {
   protected:
-    ScopedFakeInstrument instrument;
+    ScopedFakeVisa instrument;
 };
 
 TEST_P(WindowSizes, ShowEveryControlAndCaptionWhole)
