@@ -233,7 +233,7 @@ bool equalsIgnoringCase(std::string_view a, std::string_view b)
 std::optional<ResourceName> parseResourceName(std::string_view text)
 {
     text = trimmed(text);
-    if (text.empty() || text.size() > 1024) return std::nullopt;
+    if (text.empty() || text.size() > ResourceNameLimit) return std::nullopt;
     ResourceName name;
     const Fields fields = splitFields(text);
     if (fields.empty() || !parseFields(fields, name)) return std::nullopt;

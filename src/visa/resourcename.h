@@ -2,6 +2,7 @@
 // Resource strings: "TCPIP0::host::inst0::INSTR" and the other classes the
 // layer knows, parsed into their parts and printed back in one canonical form.
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -36,8 +37,12 @@ struct ResourceName {
     std::string canonical() const;
 };
 
+// Names longer than this are refused, so a hostile caller cannot make parsing costly.
+inline constexpr size_t ResourceNameLimit = 1024;
+
 // Case-insensitive; the board defaults to 0 and "::INSTR" may be left out.
 // Empty for a malformed name.
+
 std::optional<ResourceName> parseResourceName(std::string_view text);
 
 bool equalsIgnoringCase(std::string_view a, std::string_view b);
