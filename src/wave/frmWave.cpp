@@ -241,6 +241,8 @@ void frmWave::SetCaptions(int language)
                   language);
     // The other language's captions may need a wider column.
     updateGeometry();
+    // Tiled or dragged smaller, the window keeps its control column whole.
+    setMinimumHeight(SidePanel->minimumSizeHint().height());
     SidePanel->setGeometry(0, 0, paneLeft(), height());
     if (!firstRun_) Form_Resize();
 }

@@ -24,10 +24,6 @@
 #include <QRadioButton>
 #include <QScrollBar>
 
-namespace {
-
-} // namespace
-
 void frmWave::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);

@@ -148,7 +148,8 @@ int main(int argc, char** argv)
         if (!Connected) std::fprintf(stderr, "not connected: the picture shows empty windows\n");
         // As a download of the settings tree would find them: the simulator shows CH1 and CH2.
         CtrlData.ChDisplay[2] = QStringLiteral("ON");
-        trigger(window.get(), "mnuWindowTileHorizontal");
+        // Side by side, each window has the whole height for its control column.
+        trigger(window.get(), "mnuWindowTileVertical");
         // The windows' timers tick the channel boxes after the switches first.
         QTimer::singleShot(1200, window.get(), [&, analysis] {
             refreshEveryWaveWindow(window.get());
