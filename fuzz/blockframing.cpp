@@ -2,12 +2,9 @@
 // stream backend cuts them into messages at the term character, except inside
 // a "#n<length><bytes>" block, and may not crash, hang or trust the length.
 // The first byte picks the size of each read, so blocks split across reads.
+#include "socketinput.h"
 #include "visa/streambackend.h"
 
-#include <sys/socket.h>
-#include <unistd.h>
-
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -20,17 +17,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const size_t chunk = 1 + data[0] % 64;
     ++data;
     --size;
-    int fds[2];
-    if (socketpair(AF_UNIX, SOCK_STREAM, 0, fds) != 0) return 0;
-    // The stream stays small enough for the socket's buffer, so one write takes it all.
-    size = std::min<size_t>(size, 64 * 1024);
-    if (write(fds[1], data, size) != ssize_t(size)) {
-        close(fds[0]);
-        close(fds[1]);
-        return 0;
-    }
-    shutdown(fds[1], SHUT_WR);
-    StreamBackend backend(FdChannel(fds[0], true));
+    const int fd = SocketWithBytes(data, size);
+    if (fd < 0) return 0;
+    StreamBackend backend(FdChannel(fd, true));
     InputQueue queue;
     ReadSettings settings;
     settings.termCharEnabled = true;
@@ -45,6 +34,5 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         if (status < VI_SUCCESS || got == 0) break;
     }
     if (total > size) __builtin_trap();
-    close(fds[1]);
     return 0;
 }

@@ -11,6 +11,7 @@
 #include "link/linkstate.h"
 #include "platform/cliplatform.h"
 #include "platform/runtimedir.h"
+#include "shotaction.h"
 #include "text/language.h"
 #include "text/productinfo.h"
 

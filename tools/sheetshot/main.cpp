@@ -14,6 +14,7 @@
 #include "frame/frmStartup.h"
 #include "link/linkstate.h"
 #include "platform/cliplatform.h"
+#include "shotaction.h"
 #include "text/language.h"
 #include "text/productinfo.h"
 
