@@ -28,14 +28,6 @@
 
 namespace {
 
-void trigger(frmMain* window, const char* name)
-{
-    if (auto* action = window->findChild<QAction*>(QString::fromLatin1(name)))
-        action->trigger();
-    else
-        std::fprintf(stderr, "no action %s\n", name);
-}
-
 // Rows from the top left, each window at its own size, a new row when the next
 // would pass the area's right edge.
 void setSideBySide(QMdiArea* area)

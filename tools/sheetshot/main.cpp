@@ -30,14 +30,6 @@
 
 namespace {
 
-void trigger(frmMain* window, const char* name)
-{
-    if (auto* action = window->findChild<QAction*>(QString::fromLatin1(name)))
-        action->trigger();
-    else
-        std::fprintf(stderr, "no action %s\n", name);
-}
-
 void refreshEveryWaveWindow(frmMain* window)
 {
     const auto subWindows = window->mdiArea()->subWindowList();
