@@ -217,9 +217,11 @@ std::string hex4(uint16_t value)
     return text;
 }
 
+// A host that came in brackets and would not read back bare (an IPv6 address,
+// a zone after "%") goes out in brackets again.
 std::string bracketed(const std::string& host)
 {
-    return host.find(':') == std::string::npos ? host : "[" + host + "]";
+    return validHost(host) ? host : "[" + host + "]";
 }
 
 } // namespace

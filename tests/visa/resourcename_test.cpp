@@ -37,7 +37,7 @@ TEST(ResourceName, EveryRowOfTheTable)
         }
         ++rows;
     }
-    EXPECT_EQ(rows, 56);
+    EXPECT_EQ(rows, 57);
 }
 
 TEST(ResourceName, KeepsThePartsEachBackendNeeds)
