@@ -1,6 +1,6 @@
 #include "frame/recentfiles.h"
-#include "state/programstate.h"
 #include "platform/testplatform.h"
+#include "state/programstate.h"
 
 #include <gtest/gtest.h>
 

@@ -9,6 +9,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -204,13 +205,13 @@ TEST_F(ExportedCalls, SessionAttributesHaveTheirStandardValuesAndWidths)
         EXPECT_EQ(value, row.value) << std::hex << row.attribute;
         EXPECT_EQ(bytes[row.width], 0xEE) << "wider than its type: " << std::hex << row.attribute;
     }
-    const char* texts[][2] = {
-        {"RSRC_CLASS", "SOCKET"}, {"TCPIP_ADDR", "127.0.0.1"}, {"RSRC_MANF_NAME", "Selvane"}};
-    const ViAttr textIds[] = {VI_ATTR_RSRC_CLASS, VI_ATTR_TCPIP_ADDR, VI_ATTR_RSRC_MANF_NAME};
-    for (size_t i = 0; i < std::size(textIds); ++i) {
+    const std::pair<ViAttr, const char*> texts[] = {{VI_ATTR_RSRC_CLASS, "SOCKET"},
+                                                    {VI_ATTR_TCPIP_ADDR, "127.0.0.1"},
+                                                    {VI_ATTR_RSRC_MANF_NAME, "Selvane"}};
+    for (const auto& [attribute, expected] : texts) {
         char text[VI_FIND_BUFLEN] = "";
-        EXPECT_EQ(v.viGetAttribute(session, textIds[i], text), VI_SUCCESS) << texts[i][0];
-        EXPECT_STREQ(text, texts[i][1]) << texts[i][0];
+        EXPECT_EQ(v.viGetAttribute(session, attribute, text), VI_SUCCESS) << expected;
+        EXPECT_STREQ(text, expected);
     }
     char name[VI_FIND_BUFLEN] = "";
     EXPECT_EQ(v.viGetAttribute(session, VI_ATTR_RSRC_NAME, name), VI_SUCCESS);

@@ -81,8 +81,15 @@ class SimSession : public ::testing::TestWithParam<Transport> {
 
 using SimTransports = SimSession;
 
-TEST_P(SimTransports, IdnComesInOne256ByteRead)
+// The program's time-out and keepalive, then its usual read of 256 bytes.
+TEST_P(SimTransports, IdnComesInOne256ByteReadUnderTheProgramsSettings)
 {
+    EXPECT_EQ(viSetAttribute(session, VI_ATTR_TMO_VALUE, 50000), VI_SUCCESS);
+    EXPECT_EQ(viSetAttribute(session, VI_ATTR_TCPIP_KEEPALIVE, VI_TRUE),
+              isTcpip() ? VI_SUCCESS : VI_ERROR_NSUP_ATTR);
+    ViUInt32 timeout = 0;
+    EXPECT_EQ(viGetAttribute(session, VI_ATTR_TMO_VALUE, &timeout), VI_SUCCESS);
+    EXPECT_EQ(timeout, 50000u);
     const Reply reply = ask("*IDN?", 256);
     EXPECT_EQ(reply.bytes, std::string(kIdn) + "\n");
     EXPECT_EQ(reply.statuses, std::vector<ViStatus>{VI_SUCCESS});
@@ -99,16 +106,6 @@ TEST_P(SimTransports, SmallReadsEndOnTheCountUntilTheLastOne)
 
 // Binary blocks travel over the network backends only.
 using SimBlocks = SimSession;
-
-TEST_P(SimBlocks, ScreenDataBlockIsReadWholeInOneRead)
-{
-    const Reply reply = ask(":WAVEFORM:SCREENDATA? CHANNEL1", 6400);
-    ASSERT_EQ(reply.statuses, std::vector<ViStatus>{VI_SUCCESS});
-    const long length = blockLength(reply.bytes);
-    ASSERT_GT(length, 0);
-    EXPECT_EQ(reply.bytes.size(), 2 + size_t(reply.bytes[1] - '0') + size_t(length) + 1);
-    EXPECT_EQ(reply.bytes.back(), '\n');
-}
 
 TEST_P(SimBlocks, ParameterBlockReadsAsTheProgramReadsIt)
 {
@@ -154,17 +151,6 @@ TEST_P(SimDeviceClear, DropsAnUnreadReply)
     ASSERT_EQ(writeText(session, "*IDN?\n"), VI_SUCCESS);
     EXPECT_EQ(viClear(session), VI_SUCCESS);
     EXPECT_EQ(ask(":TRIGGER:STATUS?", 256).bytes, "RUN\n");
-}
-
-TEST_P(SimTransports, TakesTheProgramsTimeOutAndKeepalive)
-{
-    EXPECT_EQ(viSetAttribute(session, VI_ATTR_TMO_VALUE, 50000), VI_SUCCESS);
-    EXPECT_EQ(viSetAttribute(session, VI_ATTR_TCPIP_KEEPALIVE, VI_TRUE),
-              isTcpip() ? VI_SUCCESS : VI_ERROR_NSUP_ATTR);
-    ViUInt32 timeout = 0;
-    EXPECT_EQ(viGetAttribute(session, VI_ATTR_TMO_VALUE, &timeout), VI_SUCCESS);
-    EXPECT_EQ(timeout, 50000u);
-    EXPECT_EQ(ask("*IDN?", 256).bytes, std::string(kIdn) + "\n");
 }
 
 std::string transportName(const ::testing::TestParamInfo<Transport>& info)
