@@ -131,18 +131,6 @@ TEST_P(SimBlocks, ScreenPictureArrivesInOneLargeRead)
     EXPECT_EQ(reply.bytes.substr(reply.bytes.size() - 77879, 2), "BM");
 }
 
-TEST_P(SimTransports, ASilentDeviceTimesOutAndTheLinkStaysUsable)
-{
-    ASSERT_EQ(viSetAttribute(session, VI_ATTR_TMO_VALUE, 300), VI_SUCCESS);
-    ASSERT_EQ(writeText(session, ":KEY:LOCK DISABLE\n"), VI_SUCCESS);
-    ViByte byte = 0;
-    ViUInt32 count = 7;
-    EXPECT_EQ(viRead(session, &byte, 1, &count), VI_ERROR_TMO);
-    EXPECT_EQ(count, 0u);
-    ASSERT_EQ(viSetAttribute(session, VI_ATTR_TMO_VALUE, 5000), VI_SUCCESS);
-    EXPECT_EQ(ask("*IDN?", 256).bytes, std::string(kIdn) + "\n");
-}
-
 // A byte stream has no device clear: there a reply in flight cannot be told from a new one.
 using SimDeviceClear = SimSession;
 
@@ -178,7 +166,8 @@ class SimLateReplies : public SimSession {
     static void SetUpTestSuite() { startSim({"--delay-ms", "400"}); }
 };
 
-// A read that times out leaves the link in step: the late reply is the next read's.
+// A read that times out reads nothing and leaves the link in step: the late
+// reply is the next read's.
 TEST_P(SimLateReplies, ComeToTheReadAfterATimeOut)
 {
     ASSERT_EQ(viSetAttribute(session, VI_ATTR_TMO_VALUE, 100), VI_SUCCESS);
