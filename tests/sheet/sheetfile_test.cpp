@@ -112,6 +112,7 @@ TEST_F(SheetFileTest, EveryKindComesBackByteForByteIntoAFreshProgram)
     QTemporaryDir dir;
     const QString path = dir.filePath("bench.kvs");
     ASSERT_TRUE(SaveSheet(path));
+    EXPECT_EQ(SheetFileName, path);
     EXPECT_FALSE(DataSheetDirty);
     EXPECT_EQ(RecordSlots[0].PlayState, RecordPause) << "a replaying record is paused before it is filed";
     const QByteArray first = SheetFileContent();
