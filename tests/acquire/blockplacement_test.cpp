@@ -1,5 +1,4 @@
 #include "acquire/blockplacement.h"
-#include "acquire/wavebytes.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -160,11 +159,6 @@ TEST(PlaceXyTraces, HalfTooLargeReachesPastTheTrace)
     EXPECT_TRUE(PlaceXyTraces(xy, 2 * 813, ch1, ch2));
     EXPECT_FALSE(PlaceXyTraces(xy, 2 * 814, ch1, ch2));
     EXPECT_FALSE(PlaceXyTraces(WaveArray{}, 1200, ch1, ch2));
-}
-
-TEST(WaveBytes, HoldsIndexZeroToTheBound)
-{
-    EXPECT_EQ(WaveBytes.size(), 6201u);
 }
 
 } // namespace

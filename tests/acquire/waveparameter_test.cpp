@@ -8,55 +8,50 @@ namespace {
 
 using Block = std::array<unsigned char, WaveParameterSize>;
 
-void put16(Block& b, int at, int16_t v)
-{
-    b[at] = static_cast<unsigned char>(v & 0xFF);
-    b[at + 1] = static_cast<unsigned char>((v >> 8) & 0xFF);
-}
+// Every field a distinct value at its offset: 'b' a byte, 'h' a little-endian
+// 16-bit word, 'f' a float. The padding holds bytes that must be ignored.
+struct Field {
+    int at;
+    char kind;
+    double value;
+    double (*read)(const WaveParameter&);
+};
+// clang-format off
+#define FIELD(at, kind, value, member) {at, kind, value, [](const WaveParameter& p) { return double(p.member); }}
+const Field kFields[] = {
+    FIELD(0, 'h', 12, s16ScrStartPos),           FIELD(2, 'h', 311, s16ScrEndPos),
+    FIELD(4, 'h', -7, s16ScrStartPosA),          FIELD(6, 'h', 0x1234, s16ScrEndPosA),
+    FIELD(8, 'h', -32768, s16ScrStartPosB),      FIELD(10, 'h', 32767, s16ScrEndPosB),
+    FIELD(12, 'b', 1, s8TimeRolling),            FIELD(13, 'b', -1, s8CH1Enabled_Stop),
+    FIELD(14, 'b', 0, s8CH2Enabled_Stop),        FIELD(15, 'b', 1, s8CH3Enabled_Stop),
+    FIELD(16, 'b', -128, s8CH4Enabled_Stop),     FIELD(17, 'b', 1, s8MathEnabled_Stop),
+    FIELD(18, 'b', 2, s8MathOperate),            FIELD(20, 'f', -1.5, f32MathOffset),
+    FIELD(24, 'h', -40, s16MathOffset),          FIELD(28, 'f', 0.002, f32MathScale),
+    FIELD(32, 'h', 9, s16MathScale),             FIELD(34, 'b', 1, s8FFTEnabled_Stop),
+    FIELD(35, 'b', 0, s8FFTSource),              FIELD(36, 'b', 3, s8FFTWindow),
+    FIELD(37, 'b', -2, s8FFTScreen),             FIELD(38, 'b', 1, s8FFTScaleType),
+    FIELD(40, 'f', 0.5, f32FFTVrms),             FIELD(44, 'h', -20, s16FFTdBVrms),
+    FIELD(48, 'f', 1.25e-3, f32FFTVertOffset),   FIELD(52, 'h', 25, s16FFTVertOffset),
+    FIELD(56, 'f', 5000, f32FFTHorizScale),      FIELD(60, 'h', 7, s16FFTHorizScale),
+    FIELD(64, 'f', -2.5e6, f32FFTHorizOffset),   FIELD(68, 'h', -100, s16FFTHorizOffset),
+    FIELD(70, 'h', 5, s16ChanPeakState),         FIELD(72, 'h', 1, Reserved[0]),
+    FIELD(74, 'h', -2, Reserved[1]),             FIELD(76, 'h', 300, Reserved[2]),
+    FIELD(78, 'h', -300, Reserved[3]),
+};
+#undef FIELD
+// clang-format on
 
-void putFloat(Block& b, int at, float v)
-{
-    uint32_t bits;
-    std::memcpy(&bits, &v, 4);
-    for (int i = 0; i < 4; ++i)
-        b[at + i] = static_cast<unsigned char>(bits >> (8 * i));
-}
-
-// Every field a distinct value; the padding holds bytes that must be ignored.
 Block handBuiltBlock()
 {
     Block b;
     b.fill(0xA5);
-    put16(b, 0, 12);
-    put16(b, 2, 311);
-    put16(b, 4, -7);
-    put16(b, 6, 0x1234);
-    put16(b, 8, -32768);
-    put16(b, 10, 32767);
-    const unsigned char bytes[] = {1, 0xFF, 0, 1, 0x80, 1, 2};
-    std::memcpy(&b[12], bytes, sizeof bytes); // offsets 12 to 18
-    putFloat(b, 20, -1.5f);
-    put16(b, 24, -40);
-    putFloat(b, 28, 0.002f);
-    put16(b, 32, 9);
-    b[34] = 1;
-    b[35] = 0;
-    b[36] = 3;
-    b[37] = 0xFE;
-    b[38] = 1;
-    putFloat(b, 40, 0.5f);
-    put16(b, 44, -20);
-    putFloat(b, 48, 1.25e-3f);
-    put16(b, 52, 25);
-    putFloat(b, 56, 5000.0f);
-    put16(b, 60, 7);
-    putFloat(b, 64, -2.5e6f);
-    put16(b, 68, -100);
-    put16(b, 70, 0x0005);
-    put16(b, 72, 1);
-    put16(b, 74, -2);
-    put16(b, 76, 300);
-    put16(b, 78, -300);
+    for (const Field& f : kFields) {
+        const float single = float(f.value);
+        uint32_t bits = uint32_t(int32_t(f.value));
+        if (f.kind == 'f') std::memcpy(&bits, &single, 4);
+        for (int i = 0; i < (f.kind == 'b' ? 1 : f.kind == 'h' ? 2 : 4); ++i)
+            b[size_t(f.at + i)] = static_cast<unsigned char>(bits >> (8 * i));
+    }
     return b;
 }
 
@@ -65,38 +60,8 @@ TEST(Lindquay, DecodesEveryFieldAtItsOffset)
     const Block b = handBuiltBlock();
     WaveParameter p;
     Lindquay(b.data(), &p);
-    EXPECT_EQ(p.s16ScrStartPos, 12);
-    EXPECT_EQ(p.s16ScrEndPos, 311);
-    EXPECT_EQ(p.s16ScrStartPosA, -7);
-    EXPECT_EQ(p.s16ScrEndPosA, 0x1234);
-    EXPECT_EQ(p.s16ScrStartPosB, -32768);
-    EXPECT_EQ(p.s16ScrEndPosB, 32767);
-    EXPECT_EQ(p.s8TimeRolling, 1);
-    EXPECT_EQ(p.s8CH1Enabled_Stop, -1);
-    EXPECT_EQ(p.s8CH2Enabled_Stop, 0);
-    EXPECT_EQ(p.s8CH3Enabled_Stop, 1);
-    EXPECT_EQ(p.s8CH4Enabled_Stop, -128);
-    EXPECT_EQ(p.s8MathEnabled_Stop, 1);
-    EXPECT_EQ(p.s8MathOperate, 2);
-    EXPECT_EQ(p.f32MathOffset, -1.5f);
-    EXPECT_EQ(p.s16MathOffset, -40);
-    EXPECT_EQ(p.f32MathScale, 0.002f);
-    EXPECT_EQ(p.s16MathScale, 9);
-    EXPECT_EQ(p.s8FFTEnabled_Stop, 1);
-    EXPECT_EQ(p.s8FFTSource, 0);
-    EXPECT_EQ(p.s8FFTWindow, 3);
-    EXPECT_EQ(p.s8FFTScreen, -2);
-    EXPECT_EQ(p.s8FFTScaleType, 1);
-    EXPECT_EQ(p.f32FFTVrms, 0.5f);
-    EXPECT_EQ(p.s16FFTdBVrms, -20);
-    EXPECT_EQ(p.f32FFTVertOffset, 1.25e-3f);
-    EXPECT_EQ(p.s16FFTVertOffset, 25);
-    EXPECT_EQ(p.f32FFTHorizScale, 5000.0f);
-    EXPECT_EQ(p.s16FFTHorizScale, 7);
-    EXPECT_EQ(p.f32FFTHorizOffset, -2.5e6f);
-    EXPECT_EQ(p.s16FFTHorizOffset, -100);
-    EXPECT_EQ(p.s16ChanPeakState, 5);
-    EXPECT_EQ(p.Reserved, (std::array<int16_t, 4>{1, -2, 300, -300}));
+    for (const Field& f : kFields)
+        EXPECT_EQ(f.read(p), f.kind == 'f' ? double(float(f.value)) : f.value) << "offset " << f.at;
 }
 
 TEST(Lindquay, NullArgumentsLeaveTheRecordAlone)

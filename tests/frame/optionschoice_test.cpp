@@ -28,6 +28,7 @@ TEST_F(OptionsChoiceTest, TheChoiceLandsInTheSettings)
     EXPECT_EQ(GpibAddress, 12);
     EXPECT_TRUE(ResourceChosen);
     EXPECT_EQ(ResourceName, "USB0::1::2::S::INSTR");
+    EXPECT_TRUE(test->sleeps.isEmpty()) << "without a link nothing is sent; a command would cost 100 ms";
 }
 
 TEST_F(OptionsChoiceTest, NoDeviceForgetsTheChosenResource)
@@ -39,16 +40,6 @@ TEST_F(OptionsChoiceTest, NoDeviceForgetsTheChosenResource)
     EXPECT_EQ(ResourceName, "");
     EXPECT_EQ(TransportType, 0);
     EXPECT_EQ(RefreshType, "Single");
-}
-
-TEST_F(OptionsChoiceTest, WithoutALinkNothingIsSent)
-{
-    BaudRate = "9600";
-    OptionsChoice choice;
-    choice.baudText = "38400";
-    ApplyOptions(choice);
-    EXPECT_TRUE(test->sleeps.isEmpty()) << "a command would have cost its 100 ms";
-    EXPECT_EQ(BaudRate, "38400");
 }
 
 struct TextCase {

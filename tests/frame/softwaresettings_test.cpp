@@ -80,19 +80,14 @@ TEST_F(SoftwareSettings, EveryKeyRoundTripsThroughItsVariable)
         EXPECT_EQ(GetSetting(k.section, k.key), k.text) << k.key;
 }
 
-TEST_F(SoftwareSettings, FlagsWrittenAsTrueTextStillRead)
-{
-    SaveSetting("General_KV7200B", "StartupLoadCtrl", "True");
-    LoadSoftwareSetting();
-    EXPECT_TRUE(StartupLoadCtrl);
-}
-
 TEST_F(SoftwareSettings, ANonNumberLeavesItsVariableZeroAndTheLoadGoesOn)
 {
     SaveSetting("IO Settings_KV7200B", "COM_Port", "COM3");
     SaveSetting("Refresh_KV7200B", "Refresh Interval", "fast");
     SaveSetting("Settings_KV7200B", "MainHeight", "8000");
+    SaveSetting("General_KV7200B", "StartupLoadCtrl", "True");
     LoadSoftwareSetting();
+    EXPECT_TRUE(StartupLoadCtrl) << "a flag written as True text still reads";
     EXPECT_EQ(ComPort, 0);
     EXPECT_EQ(RefreshInterval, 0);
     EXPECT_EQ(GpibAddress, 7);

@@ -45,11 +45,8 @@ TEST(IconRects, LineUpFromTheBottomLeftRowAboveRow)
     EXPECT_EQ(rects[1], QRect(160, 370, 160, 30));
     EXPECT_EQ(rects[2], QRect(0, 340, 160, 30));
     EXPECT_EQ(rects[3], QRect(160, 340, 160, 30));
-}
-
-TEST(IconRects, AnEmptySizePlacesNothing)
-{
-    EXPECT_TRUE(IconRects(QRect(0, 0, 300, 300), 3, QSize(0, 20)).isEmpty());
+    EXPECT_TRUE(IconRects(QRect(0, 0, 300, 300), 3, QSize(0, 20)).isEmpty())
+        << "an empty size places nothing";
     EXPECT_EQ(IconRects(QRect(0, 0, 50, 300), 2, QSize(100, 20)).size(), 2) << "one to a row when none fits";
 }
 

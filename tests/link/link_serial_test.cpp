@@ -46,12 +46,8 @@ TEST_F(SerialTest, ChunksGatherUntilTheLineFeed)
     EXPECT_EQ(ReplyText, "KORVA,KV7204B");
     EXPECT_EQ(ReplyByteCount, 13);
     EXPECT_EQ(ReplyBufferUsed, 14);
-}
 
-TEST_F(SerialTest, ANewReplyStartsTheBufferAfresh)
-{
-    Rs232RecvLine("first\n");
-    ReplyChunkSeen = false; // what Rs232Write does before the next query
+    ReplyChunkSeen = false; // what Rs232Write does before the next query: the buffer starts afresh
     ReplyText.clear();
     Rs232RecvLine("2\n");
     EXPECT_EQ(ReplyBufferUsed, 2);

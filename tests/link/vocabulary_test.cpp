@@ -26,6 +26,7 @@ TEST(CommandBuilder, JoinsPiecesQueryMarkBlankAndValue)
         {SetCommand({Piece::Trigger, AsPiece(Word::Video), Piece::Mode}, Word::AllLines.toString().toUpper()),
          ":TRIGGER:VIDEO:MODE ALLLINES"},
         {Join({Piece::Storage, Piece::Load}), ":STORAGE:Load"},
+        {Join({Piece::Storage, Piece::Save}), ":STORAGE:Save"},
         {Query({Piece::Trigger, Piece::Status}, u""), ":TRIGGER:STATUS?"},
         {KeyCommand(Key::ChVoltInc[2]), ":KEY:CH3_VOLT_INC"},
         {KeyLockCommand(false), ":KEY:LOCK DISABLE"},
@@ -34,16 +35,6 @@ TEST(CommandBuilder, JoinsPiecesQueryMarkBlankAndValue)
     };
     for (const auto& c : cases)
         EXPECT_EQ(c.built, c.expected);
-}
-
-TEST(Vocabulary, KeepsTheInstrumentsOwnSpellings)
-{
-    EXPECT_EQ(Whole::TrigTo50, ":TRIG%50");
-    EXPECT_EQ(Piece::CurrentSourceMixed, ":CURRentSOURce");
-    EXPECT_EQ(Piece::Save, ":Save");
-    EXPECT_EQ(Word::OddField, "ODDfield");
-    EXPECT_EQ(Word::EvenField, "EVENfield");
-    EXPECT_EQ(Word::Disable, " DISABLE");
 }
 
 TEST(KeyPieces, ListEveryKeyOnceWithTheSixOfEachChannel)

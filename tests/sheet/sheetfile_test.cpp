@@ -109,14 +109,21 @@ class SheetFileTest : public FreshStateTest {
 TEST_F(SheetFileTest, EveryKindComesBackByteForByteIntoAFreshProgram)
 {
     fillEveryKind();
-    const QByteArray first = SheetFileContent();
+    QTemporaryDir dir;
+    const QString path = dir.filePath("bench.kvs");
+    ASSERT_TRUE(SaveSheet(path));
+    EXPECT_EQ(SheetFileName, path);
+    EXPECT_FALSE(DataSheetDirty);
     EXPECT_EQ(RecordSlots[0].PlayState, RecordPause) << "a replaying record is paused before it is filed";
+    const QByteArray first = SheetFileContent();
     const auto waves = WaveRecords;
     const auto memory = MemoryWaveSlots[0].Samples;
 
     ResetProgramState();
-    ASSERT_EQ(ReadSheetContent(first), SheetLoadResult::Loaded);
+    ASSERT_EQ(LoadSheet(path), SheetLoadResult::Loaded);
+    EXPECT_EQ(SheetFileName, path);
     EXPECT_EQ(SheetFileContent(), first);
+    EXPECT_TRUE(test->boxes.empty());
 
     EXPECT_EQ(DataSheetName, QStringLiteral("Bench 数据"));
     EXPECT_EQ(SheetSlotNames[KindIndex(SheetKind::Wave)], QStringList({"Wave0", "Wave1", "Wave2", "Wave3"}));
@@ -165,26 +172,10 @@ TEST_F(SheetFileTest, AnotherVersionIsRefusedAndThePresentSheetStays)
     EXPECT_EQ(DataSheetName, QStringLiteral("Bench 数据"));
     EXPECT_EQ(SheetCount(SheetKind::Wave), 4);
     EXPECT_TRUE(SheetFileName.isEmpty());
-}
-
-TEST_F(SheetFileTest, SaveAndLoadGoThroughTheFile)
-{
-    fillEveryKind();
-    QTemporaryDir dir;
-    const QString path = dir.filePath("bench.kvs");
-    ASSERT_TRUE(SaveSheet(path));
-    EXPECT_FALSE(DataSheetDirty);
-    EXPECT_EQ(SheetFileName, path);
-    const QByteArray saved = SheetFileContent();
-    ResetProgramState();
-    ASSERT_EQ(LoadSheet(path), SheetLoadResult::Loaded);
-    EXPECT_EQ(SheetFileName, path);
-    EXPECT_EQ(SheetFileContent(), saved);
-    EXPECT_TRUE(test->boxes.empty());
 
     EXPECT_EQ(LoadSheet(dir.filePath("missing.kvs")), SheetLoadResult::Unreadable);
-    ASSERT_EQ(test->boxes.size(), 1);
-    EXPECT_EQ(test->boxes[0].style, vbCritical);
+    ASSERT_EQ(test->boxes.size(), 2);
+    EXPECT_EQ(test->boxes[1].style, vbCritical);
 }
 
 TEST_F(SheetFileTest, AHandWrittenFileLoadsIntoTheRecords)

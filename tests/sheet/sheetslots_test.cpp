@@ -1,13 +1,13 @@
 #include "acquire/waverecord.h"
 #include "analysis/datarecord.h"
+#include "analysis/measurerecord.h"
 #include "document/sheetstate.h"
 #include "platform/testplatform.h"
 #include "sheet/sheetslots.h"
+#include "state/programstate.h"
 #include "support/freshstate.h"
 #include "text/language.h"
 #include "text/messages.h"
-#include "analysis/measurerecord.h"
-#include "state/programstate.h"
 #include "wave/fftsetting.h"
 
 #include <gtest/gtest.h>
@@ -84,6 +84,11 @@ TEST_F(SheetSlotsTest, NewWindowsAreNamedByLabelAndCountInTheLanguageInForce)
     EXPECT_EQ(SlotName(SheetKind::Record, 0), u"录制文件0");
     EXPECT_EQ(SlotName(SheetKind::Data, 0), u"数据0");
     EXPECT_TRUE(DataSheetDirty);
+    fill(SheetKind::Wave, 2);
+    RenameSlot(SheetKind::Wave, 1, "Ripple");
+    EXPECT_EQ(SlotName(SheetKind::Wave, 1), "Ripple");
+    EXPECT_EQ(WaveRecords[1].WaveTitle, "Ripple") << "the wave record keeps the name too";
+    EXPECT_EQ(WaveRecords[0].WaveTitle, "Wave0");
 }
 
 TEST_F(SheetSlotsTest, RemovingTheSecondOfThreeWavesKeepsNamesAndMovesRecordsDown)
@@ -154,16 +159,6 @@ TEST_F(SheetSlotsTest, SlotsOutsideTheCountAreLeftAlone)
     }
     EXPECT_EQ(SheetCount(SheetKind::Wave), 1);
     EXPECT_FALSE(DataSheetDirty);
-}
-
-TEST_F(SheetSlotsTest, RenameKeepsTheNameInTheSlotAndTheWaveRecord)
-{
-    OpenNewSheet();
-    fill(SheetKind::Wave, 2);
-    RenameSlot(SheetKind::Wave, 1, "Ripple");
-    EXPECT_EQ(SlotName(SheetKind::Wave, 1), "Ripple");
-    EXPECT_EQ(WaveRecords[1].WaveTitle, "Ripple");
-    EXPECT_EQ(WaveRecords[0].WaveTitle, "Wave0");
 }
 
 TEST_F(SheetSlotsTest, ANewSheetTakesTheDefaultNameOfTheLanguage)

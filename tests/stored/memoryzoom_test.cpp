@@ -134,10 +134,6 @@ TEST(MemorySteps, AVoltsStepKeepsTheTraceInPlace)
     EXPECT_FALSE(StepMemoryValue(slot, 7, +1, 0));
 }
 
-} // namespace
-
-namespace {
-
 TEST(MemoryZoom, RollTurnsTheRingSoTheOldestStepComesFirst)
 {
     MemoryWaveSlot slot;

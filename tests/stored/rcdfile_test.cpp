@@ -107,13 +107,10 @@ TEST_F(RcdFileTest, AlternateSourceGivesItsChannelAndTexts)
     EXPECT_EQ(slot.OffsetText, "-2.00mV");
     EXPECT_EQ(slot.TimeText, "2.000s");
     EXPECT_EQ(slot.DelayText, "-300.0us");
-}
 
-TEST_F(RcdFileTest, OffsetDividesTheShiftAsARealNumber)
-{
-    RcdBuilder file;
-    file.channel(0, 1, 1000000, 10); // 10/25 of a division of 1 V
-    ASSERT_EQ(load(file), RecordLoad::Loaded);
+    RcdBuilder plain;
+    plain.channel(0, 1, 1000000, 10); // the offset divides the shift as a real number: 10/25 of 1 V
+    ASSERT_EQ(load(plain), RecordLoad::Loaded);
     EXPECT_EQ(slot.VoltText, "1.00V");
     EXPECT_EQ(slot.OffsetText, "400mV");
 }

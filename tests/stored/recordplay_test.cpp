@@ -26,53 +26,52 @@ class RecordPlayTest : public ::testing::Test {
     void TearDown() override { ResetProgramState(); }
 };
 
-TEST_F(RecordPlayTest, StartAtTheEndOfASingleRunRestartsFromOne)
+// One command on a loaded record: the clock change it asks for, the frame and the state it leaves.
+TEST_F(RecordPlayTest, CommandsMoveTheFrameAndTheState)
 {
-    RecordSlot slot = loaded(10, 10);
-    EXPECT_EQ(RecordReplayStart(slot), ClockChange::Start);
-    EXPECT_EQ(slot.CurrentFrame, 1);
-    EXPECT_EQ(slot.PlayState, RecordReplaying);
-
-    RecordSlot circular = loaded(10, 10, true);
-    RecordReplayStart(circular);
-    EXPECT_EQ(circular.CurrentFrame, 10) << "a circular run goes on from where it is";
-}
-
-TEST_F(RecordPlayTest, CircularTickAfterTheLastFrameShowsFrameOne)
-{
-    RecordSlot slot = loaded(10, 10, true, RecordReplaying);
-    EXPECT_EQ(RecordReplayTick(slot), ClockChange::Keep);
-    EXPECT_EQ(slot.CurrentFrame, 1);
-    EXPECT_EQ(slot.PlayState, RecordReplaying);
-}
-
-TEST_F(RecordPlayTest, ASingleRunPausesOnItsLastFrame)
-{
-    RecordSlot slot = loaded(3, 1, false, RecordReplaying);
-    EXPECT_EQ(RecordReplayTick(slot), ClockChange::Keep);
-    EXPECT_EQ(slot.CurrentFrame, 2);
-    EXPECT_EQ(RecordReplayTick(slot), ClockChange::Stop);
-    EXPECT_EQ(slot.CurrentFrame, 3);
-    EXPECT_EQ(slot.PlayState, RecordPause);
-}
-
-TEST_F(RecordPlayTest, StepsClampAndPause)
-{
-    RecordSlot slot = loaded(5, 5, false, RecordReplaying);
-    EXPECT_EQ(RecordStepFrame(slot, +1), ClockChange::Stop);
-    EXPECT_EQ(slot.CurrentFrame, 5);
-    EXPECT_EQ(slot.PlayState, RecordPause);
-    slot.CurrentFrame = 1;
-    RecordStepFrame(slot, -1);
-    EXPECT_EQ(slot.CurrentFrame, 1);
-    RecordStepFrame(slot, +1);
-    EXPECT_EQ(slot.CurrentFrame, 2);
-
-    RecordSlot circular = loaded(5, 5, true);
-    RecordStepFrame(circular, +1);
-    EXPECT_EQ(circular.CurrentFrame, 1);
-    RecordStepFrame(circular, -1);
-    EXPECT_EQ(circular.CurrentFrame, 1) << "below 1 is 1 in a circular run too";
+    using Command = ClockChange (*)(RecordSlot&);
+    const Command start = RecordReplayStart, tick = RecordReplayTick, pause = RecordReplayPause,
+                  stop = RecordReplayStop, toStart = RecordGoToStart, toEnd = RecordGoToEnd;
+    const Command next = [](RecordSlot& s) { return RecordStepFrame(s, +1); };
+    const Command back = [](RecordSlot& s) { return RecordStepFrame(s, -1); };
+    constexpr auto Keep = ClockChange::Keep, Start = ClockChange::Start, Stop = ClockChange::Stop;
+    const struct {
+        const char* what;
+        int last, current;
+        bool circular;
+        uint8_t state;
+        Command command;
+        ClockChange clock;
+        int frame;
+        uint8_t after;
+    } rows[] = {
+        {"start at the end of a single run restarts from one", 10, 10, false, RecordStop, start, Start, 1,
+         RecordReplaying},
+        {"a circular run starts from where it is", 10, 10, true, RecordStop, start, Start, 10,
+         RecordReplaying},
+        {"a circular tick after the last frame shows frame one", 10, 10, true, RecordReplaying, tick, Keep, 1,
+         RecordReplaying},
+        {"a single run ticks on", 3, 1, false, RecordReplaying, tick, Keep, 2, RecordReplaying},
+        {"a single run pauses on its last frame", 3, 2, false, RecordReplaying, tick, Stop, 3, RecordPause},
+        {"every step pauses; past the end it clamps", 5, 5, false, RecordReplaying, next, Stop, 5,
+         RecordPause},
+        {"a step below one clamps", 5, 1, false, RecordPause, back, Stop, 1, RecordPause},
+        {"a step", 5, 1, false, RecordPause, next, Stop, 2, RecordPause},
+        {"a circular step past the end is frame one", 5, 5, true, RecordStop, next, Stop, 1, RecordPause},
+        {"below one is one in a circular run too", 5, 1, true, RecordStop, back, Stop, 1, RecordPause},
+        {"to the end while replaying", 10, 4, false, RecordReplaying, toEnd, Keep, 10, RecordReplaying},
+        {"to the start", 10, 4, false, RecordReplaying, toStart, Keep, 1, RecordReplaying},
+        {"pause", 10, 4, false, RecordReplaying, pause, Stop, 4, RecordPause},
+        {"pause acts only while replaying", 10, 4, false, RecordPause, pause, Keep, 4, RecordPause},
+        {"stop goes back to one", 10, 7, false, RecordPause, stop, Stop, 1, RecordStop},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        RecordSlot slot = loaded(row.last, row.current, row.circular, row.state);
+        EXPECT_EQ(row.command(slot), row.clock);
+        EXPECT_EQ(slot.CurrentFrame, row.frame);
+        EXPECT_EQ(slot.PlayState, row.after);
+    }
 }
 
 TEST_F(RecordPlayTest, FrameCheck)
@@ -85,23 +84,6 @@ TEST_F(RecordPlayTest, FrameCheck)
         EXPECT_EQ(CheckFrame(single, frames[i]), singleWants[i]) << frames[i];
         EXPECT_EQ(CheckFrame(circular, frames[i]), circularWants[i]) << frames[i];
     }
-}
-
-TEST_F(RecordPlayTest, StopPauseAndJumps)
-{
-    RecordSlot slot = loaded(10, 4, false, RecordReplaying);
-    EXPECT_EQ(RecordGoToEnd(slot), ClockChange::Keep);
-    EXPECT_EQ(slot.CurrentFrame, 10);
-    EXPECT_EQ(slot.PlayState, RecordReplaying);
-    RecordGoToStart(slot);
-    EXPECT_EQ(slot.CurrentFrame, 1);
-    EXPECT_EQ(RecordReplayPause(slot), ClockChange::Stop);
-    EXPECT_EQ(slot.PlayState, RecordPause);
-    EXPECT_EQ(RecordReplayPause(slot), ClockChange::Keep) << "pause acts only while replaying";
-    slot.CurrentFrame = 7;
-    EXPECT_EQ(RecordReplayStop(slot), ClockChange::Stop);
-    EXPECT_EQ(slot.CurrentFrame, 1);
-    EXPECT_EQ(slot.PlayState, RecordStop);
 }
 
 TEST_F(RecordPlayTest, WithoutAFileNothingPlaysAndTheBarIsGrey)

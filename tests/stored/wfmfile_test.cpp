@@ -57,6 +57,9 @@ TEST_F(WfmFileTest, BothMagicsLoadAlikeAndAnyOtherIsAFormatError)
     ASSERT_TRUE(a5a5.result.accepted && a5a1.result.accepted);
     EXPECT_EQ(a5a5.slot.Samples, a5a1.slot.Samples);
     EXPECT_TRUE(a5a1.slot.HasData);
+    const Loaded noChannel = load(WfmBytes{});
+    EXPECT_TRUE(noChannel.result.accepted);
+    EXPECT_FALSE(noChannel.slot.HasData) << "no channel on loads without data";
 
     file.put<uint16_t>(0, 0xA5A6);
     MemoryWaveSlot slot = a5a5.slot;
@@ -162,13 +165,6 @@ TEST_F(WfmFileTest, SamplesPastTheBufferAreSkippedWithoutFailing)
     EXPECT_EQ(loaded.slot.Samples[2][699'496], 26);
     EXPECT_EQ(loaded.slot.Samples[2][699'497], 0);
     EXPECT_EQ(head(loaded.slot, 3), codes({0, 0, 0}));
-}
-
-TEST_F(WfmFileTest, NoChannelOnLoadsWithoutData)
-{
-    const Loaded loaded = load(WfmBytes{});
-    EXPECT_TRUE(loaded.result.accepted);
-    EXPECT_FALSE(loaded.slot.HasData);
 }
 
 TEST_F(WfmFileTest, EdgeFillsTheSingleTimeBaseAndAlternationBothOthers)

@@ -9,6 +9,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -61,7 +62,7 @@ constexpr ViAttr kUnknownAttribute = 0x3FFF7777u;
 
 struct Case {
     const char* what;
-    std::function<ViStatus(ViSession manager, ViSession session)> call;
+    std::function<ViStatus()> call;
     ViStatus expected;
 };
 
@@ -81,8 +82,7 @@ class ExportedCalls : public ::testing::Test {
     void run(const std::vector<Case>& cases)
     {
         for (const Case& c : cases)
-            EXPECT_EQ(c.call(manager, session), c.expected)
-                << c.what << ": " << viStatusName(c.call(manager, session));
+            EXPECT_EQ(c.call(), c.expected) << c.what << ": " << viStatusName(c.call());
     }
 
     TcpPeer peer;
@@ -98,115 +98,75 @@ TEST_F(ExportedCalls, BadInputGetsTheStandardStatus)
     ViUInt32 count = 0;
     ViUInt16 value16 = 0;
     char text[VI_FIND_BUFLEN];
+    ViSession opened = VI_NULL;
     const auto& v = lib();
     run({
-        {"10,000-character name",
-         [&](ViSession m, ViSession) {
-             ViSession s;
-             return v.viOpen(m, hugeTcpip.c_str(), 0, 0, &s);
-         },
+        {"10,000-character name", [&] { return v.viOpen(manager, hugeTcpip.c_str(), 0, 0, &opened); },
          VI_ERROR_INV_RSRC_NAME},
         {"10,000-character parse",
-         [&](ViSession m, ViSession) {
-             return v.viParseRsrcEx(m, huge.c_str(), &value16, &value16, text, text, text);
-         },
+         [&] { return v.viParseRsrcEx(manager, huge.c_str(), &value16, &value16, text, text, text); },
          VI_ERROR_INV_RSRC_NAME},
-        {"unknown interface",
-         [&](ViSession m, ViSession) {
-             ViSession s;
-             return v.viOpen(m, "FOO0::1::INSTR", 0, 0, &s);
-         },
+        {"unknown interface", [&] { return v.viOpen(manager, "FOO0::1::INSTR", 0, 0, &opened); },
          VI_ERROR_INV_RSRC_NAME},
         {"null name",
-         [&](ViSession m, ViSession) {
-             return v.viParseRsrcEx(m, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
-         },
+         [&] { return v.viParseRsrcEx(manager, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); },
          VI_ERROR_INV_RSRC_NAME},
         {"parse on a session",
-         [&](ViSession, ViSession s) {
-             return v.viParseRsrcEx(s, "ASRL1::INSTR", &value16, &value16, text, text, text);
-         },
+         [&] { return v.viParseRsrcEx(session, "ASRL1::INSTR", &value16, &value16, text, text, text); },
          VI_ERROR_INV_OBJECT},
-        {"read, never opened",
-         [&](ViSession, ViSession) { return v.viRead(kNeverOpened, buffer, 16, &count); },
+        {"read, never opened", [&] { return v.viRead(kNeverOpened, buffer, 16, &count); },
          VI_ERROR_INV_OBJECT},
-        {"write, never opened",
-         [&](ViSession, ViSession) { return v.viWrite(kNeverOpened, buffer, 16, &count); },
+        {"write, never opened", [&] { return v.viWrite(kNeverOpened, buffer, 16, &count); },
          VI_ERROR_INV_OBJECT},
-        {"status byte, never opened",
-         [&](ViSession, ViSession) { return v.viReadSTB(kNeverOpened, &value16); }, VI_ERROR_INV_OBJECT},
-        {"lock, never opened",
-         [&](ViSession, ViSession) { return v.viLock(kNeverOpened, VI_EXCLUSIVE_LOCK, 0, nullptr, nullptr); },
+        {"status byte, never opened", [&] { return v.viReadSTB(kNeverOpened, &value16); },
          VI_ERROR_INV_OBJECT},
-        {"attribute, never opened",
-         [&](ViSession, ViSession) { return v.viGetAttribute(kNeverOpened, VI_ATTR_TMO_VALUE, &count); },
+        {"lock, never opened", [&] { return v.viLock(kNeverOpened, VI_EXCLUSIVE_LOCK, 0, nullptr, nullptr); },
+         VI_ERROR_INV_OBJECT},
+        {"attribute, never opened", [&] { return v.viGetAttribute(kNeverOpened, VI_ATTR_TMO_VALUE, &count); },
          VI_ERROR_INV_OBJECT},
         {"event, never opened",
-         [&](ViSession, ViSession) {
-             return v.viEnableEvent(kNeverOpened, VI_EVENT_SERVICE_REQ, VI_QUEUE, 0);
-         },
+         [&] { return v.viEnableEvent(kNeverOpened, VI_EVENT_SERVICE_REQ, VI_QUEUE, 0); },
          VI_ERROR_INV_OBJECT},
-        {"null read buffer", [&](ViSession, ViSession s) { return v.viRead(s, nullptr, 16, &count); },
+        {"null read buffer", [&] { return v.viRead(session, nullptr, 16, &count); }, VI_ERROR_INV_PARAMETER},
+        {"null write buffer", [&] { return v.viWrite(session, nullptr, 16, &count); },
          VI_ERROR_INV_PARAMETER},
-        {"null write buffer", [&](ViSession, ViSession s) { return v.viWrite(s, nullptr, 16, &count); },
+        {"null attribute value", [&] { return v.viGetAttribute(session, VI_ATTR_TMO_VALUE, nullptr); },
          VI_ERROR_INV_PARAMETER},
-        {"null attribute value",
-         [&](ViSession, ViSession s) { return v.viGetAttribute(s, VI_ATTR_TMO_VALUE, nullptr); },
+        {"null status byte", [&] { return v.viReadSTB(session, nullptr); }, VI_ERROR_INV_PARAMETER},
+        {"null description", [&] { return v.viStatusDesc(session, VI_ERROR_TMO, nullptr); },
          VI_ERROR_INV_PARAMETER},
-        {"null status byte", [&](ViSession, ViSession s) { return v.viReadSTB(s, nullptr); },
+        {"null file name", [&] { return v.viReadToFile(session, nullptr, 16, &count); },
          VI_ERROR_INV_PARAMETER},
-        {"null description", [&](ViSession, ViSession s) { return v.viStatusDesc(s, VI_ERROR_TMO, nullptr); },
-         VI_ERROR_INV_PARAMETER},
-        {"null file name", [&](ViSession, ViSession s) { return v.viReadToFile(s, nullptr, 16, &count); },
-         VI_ERROR_INV_PARAMETER},
-        {"missing file",
-         [&](ViSession, ViSession s) { return v.viWriteFromFile(s, "/nonexistent/selvane", 16, &count); },
+        {"missing file", [&] { return v.viWriteFromFile(session, "/nonexistent/selvane", 16, &count); },
          VI_ERROR_FILE_ACCESS},
-        {"read of zero bytes", [&](ViSession, ViSession s) { return v.viRead(s, buffer, 0, &count); },
-         VI_SUCCESS_MAX_CNT},
-        {"write of zero bytes", [&](ViSession, ViSession s) { return v.viWrite(s, buffer, 0, &count); },
-         VI_SUCCESS},
-        {"silent peer", [&](ViSession, ViSession s) { return v.viRead(s, buffer, 16, &count); },
-         VI_ERROR_TMO},
-        {"unknown attribute",
-         [&](ViSession, ViSession s) { return v.viSetAttribute(s, kUnknownAttribute, 1); },
+        {"read of zero bytes", [&] { return v.viRead(session, buffer, 0, &count); }, VI_SUCCESS_MAX_CNT},
+        {"write of zero bytes", [&] { return v.viWrite(session, buffer, 0, &count); }, VI_SUCCESS},
+        {"silent peer", [&] { return v.viRead(session, buffer, 16, &count); }, VI_ERROR_TMO},
+        {"unknown attribute", [&] { return v.viSetAttribute(session, kUnknownAttribute, 1); },
          VI_ERROR_NSUP_ATTR},
-        {"serial attribute on a socket",
-         [&](ViSession, ViSession s) { return v.viGetAttribute(s, VI_ATTR_ASRL_BAUD, &count); },
+        {"serial attribute on a socket", [&] { return v.viGetAttribute(session, VI_ATTR_ASRL_BAUD, &count); },
          VI_ERROR_NSUP_ATTR},
-        {"read-only attribute",
-         [&](ViSession, ViSession s) { return v.viSetAttribute(s, VI_ATTR_RSRC_NAME, 0); },
+        {"read-only attribute", [&] { return v.viSetAttribute(session, VI_ATTR_RSRC_NAME, 0); },
          VI_ERROR_ATTR_READONLY},
-        {"term character out of range",
-         [&](ViSession, ViSession s) { return v.viSetAttribute(s, VI_ATTR_TERMCHAR, 300); },
+        {"term character out of range", [&] { return v.viSetAttribute(session, VI_ATTR_TERMCHAR, 300); },
          VI_ERROR_NSUP_ATTR_STATE},
-        {"status byte on a plain socket", [&](ViSession, ViSession s) { return v.viReadSTB(s, &value16); },
-         VI_ERROR_NSUP_OPER},
-        {"trigger on a plain socket", [&](ViSession, ViSession s) { return v.viAssertTrigger(s, 0); },
-         VI_ERROR_NSUP_OPER},
-        {"REN without GPIB", [&](ViSession, ViSession s) { return v.viGpibControlREN(s, 1); },
-         VI_ERROR_NSUP_OPER},
-        {"flush mask 0", [&](ViSession, ViSession s) { return v.viFlush(s, 0); }, VI_ERROR_INV_MASK},
-        {"buffer mask 0x100", [&](ViSession, ViSession s) { return v.viSetBuf(s, 0x100, 4096); },
-         VI_ERROR_INV_MASK},
-        {"lock type 7", [&](ViSession, ViSession s) { return v.viLock(s, 7, 0, nullptr, nullptr); },
-         VI_ERROR_INV_LOCK_TYPE},
-        {"unlock without lock", [&](ViSession, ViSession s) { return v.viUnlock(s); }, VI_ERROR_SESN_NLOCKED},
-        {"event mechanism 99",
-         [&](ViSession, ViSession s) { return v.viEnableEvent(s, VI_EVENT_SERVICE_REQ, 99, 0); },
+        {"status byte on a plain socket", [&] { return v.viReadSTB(session, &value16); }, VI_ERROR_NSUP_OPER},
+        {"trigger on a plain socket", [&] { return v.viAssertTrigger(session, 0); }, VI_ERROR_NSUP_OPER},
+        {"REN without GPIB", [&] { return v.viGpibControlREN(session, 1); }, VI_ERROR_NSUP_OPER},
+        {"flush mask 0", [&] { return v.viFlush(session, 0); }, VI_ERROR_INV_MASK},
+        {"buffer mask 0x100", [&] { return v.viSetBuf(session, 0x100, 4096); }, VI_ERROR_INV_MASK},
+        {"lock type 7", [&] { return v.viLock(session, 7, 0, nullptr, nullptr); }, VI_ERROR_INV_LOCK_TYPE},
+        {"unlock without lock", [&] { return v.viUnlock(session); }, VI_ERROR_SESN_NLOCKED},
+        {"event mechanism 99", [&] { return v.viEnableEvent(session, VI_EVENT_SERVICE_REQ, 99, 0); },
          VI_ERROR_INV_MECH},
-        {"service requests",
-         [&](ViSession, ViSession s) { return v.viEnableEvent(s, VI_EVENT_SERVICE_REQ, VI_QUEUE, 0); },
+        {"service requests", [&] { return v.viEnableEvent(session, VI_EVENT_SERVICE_REQ, VI_QUEUE, 0); },
          VI_ERROR_INV_EVENT},
-        {"disable all",
-         [&](ViSession, ViSession s) { return v.viDisableEvent(s, VI_ALL_ENABLED_EVENTS, VI_ALL_MECH); },
+        {"disable all", [&] { return v.viDisableEvent(session, VI_ALL_ENABLED_EVENTS, VI_ALL_MECH); },
          VI_SUCCESS_EVENT_DIS},
         {"wait without events",
-         [&](ViSession, ViSession s) {
-             return v.viWaitOnEvent(s, VI_ALL_ENABLED_EVENTS, 0, nullptr, nullptr);
-         },
+         [&] { return v.viWaitOnEvent(session, VI_ALL_ENABLED_EVENTS, 0, nullptr, nullptr); },
          VI_ERROR_NENABLED},
-        {"unknown status text", [&](ViSession, ViSession s) { return v.viStatusDesc(s, 0x12345, text); },
+        {"unknown status text", [&] { return v.viStatusDesc(session, 0x12345, text); },
          VI_WARN_UNKNOWN_STATUS},
     });
 }
@@ -245,13 +205,13 @@ TEST_F(ExportedCalls, SessionAttributesHaveTheirStandardValuesAndWidths)
         EXPECT_EQ(value, row.value) << std::hex << row.attribute;
         EXPECT_EQ(bytes[row.width], 0xEE) << "wider than its type: " << std::hex << row.attribute;
     }
-    const char* texts[][2] = {
-        {"RSRC_CLASS", "SOCKET"}, {"TCPIP_ADDR", "127.0.0.1"}, {"RSRC_MANF_NAME", "Selvane"}};
-    const ViAttr textIds[] = {VI_ATTR_RSRC_CLASS, VI_ATTR_TCPIP_ADDR, VI_ATTR_RSRC_MANF_NAME};
-    for (size_t i = 0; i < std::size(textIds); ++i) {
+    const std::pair<ViAttr, const char*> texts[] = {{VI_ATTR_RSRC_CLASS, "SOCKET"},
+                                                    {VI_ATTR_TCPIP_ADDR, "127.0.0.1"},
+                                                    {VI_ATTR_RSRC_MANF_NAME, "Selvane"}};
+    for (const auto& [attribute, expected] : texts) {
         char text[VI_FIND_BUFLEN] = "";
-        EXPECT_EQ(v.viGetAttribute(session, textIds[i], text), VI_SUCCESS) << texts[i][0];
-        EXPECT_STREQ(text, texts[i][1]) << texts[i][0];
+        EXPECT_EQ(v.viGetAttribute(session, attribute, text), VI_SUCCESS) << expected;
+        EXPECT_STREQ(text, expected);
     }
     char name[VI_FIND_BUFLEN] = "";
     EXPECT_EQ(v.viGetAttribute(session, VI_ATTR_RSRC_NAME, name), VI_SUCCESS);
