@@ -1,13 +1,14 @@
-#include "platform/testplatform.h"
 #include "document/sheetstate.h"
+#include "guitest.h"
+#include "platform/testplatform.h"
 #include "state/programstate.h"
 #include "stored/frmOpenWaveform.h"
 #include "stored/memorysteps.h"
 #include "stored/memorywavecsv.h"
+#include "stored/wfmbytes.h"
 #include "stored/wfmfile.h"
 #include "text/messages.h"
 #include "wave/frmWavePrint.h"
-#include "stored/wfmbytes.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -55,9 +56,7 @@ class MemoryWaveWindowTest : public ::testing::Test {
     }
     template <typename T> T* control(const char* name) const
     {
-        T* found = window->findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
+        return Named<T>(window, QString::fromLatin1(name));
     }
     QStringList boxTexts() const
     {
