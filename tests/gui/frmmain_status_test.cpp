@@ -90,7 +90,7 @@ TEST_F(StatusTest, OneLampAtATimeFollowsTheLinkAtTheEndOfTheBar)
     }
 }
 
-TEST_F(StatusTest, ViewEntriesToggleTheirBarsAndPanes)
+TEST_F(StatusTest, ViewEntriesToggleTheirBarsAndPanesAndTheWindowMenuTiles)
 {
     EXPECT_TRUE(pane("DataSheet")->isVisible());
     EXPECT_TRUE(pane("Controller")->isVisible());
@@ -109,10 +109,8 @@ TEST_F(StatusTest, ViewEntriesToggleTheirBarsAndPanes)
     EXPECT_FALSE(find<QStatusBar>("sbrStatus")->isVisible());
     find("mnuViewToolbar")->trigger();
     EXPECT_FALSE(find<QToolBar>("tbToolBar")->isVisible());
-}
 
-TEST_F(StatusTest, TheWindowMenuTilesTheChildWindows)
-{
+    // The window menu tiles the child windows.
     QMdiArea* area = window->mdiArea();
     QMdiSubWindow* first = area->addSubWindow(new QWidget);
     QMdiSubWindow* second = area->addSubWindow(new QWidget);

@@ -1,13 +1,10 @@
 #include "document/sheetstate.h"
-#include "guitest.h"
-#include "platform/testplatform.h"
-#include "state/programstate.h"
+#include "frmwave_fixture.h"
 #include "stored/frmOpenWaveform.h"
 #include "stored/memorysteps.h"
 #include "stored/memorywavecsv.h"
 #include "stored/wfmbytes.h"
 #include "stored/wfmfile.h"
-#include "text/messages.h"
 #include "wave/frmWavePrint.h"
 
 #include <QApplication>
@@ -16,7 +13,6 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMdiArea>
 #include <QPrinter>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -34,14 +30,10 @@ WfmBytes withChannels(std::initializer_list<int> channels, bool alternation = fa
     return file;
 }
 
-class MemoryWaveWindowTest : public ::testing::Test {
+// Its own window in place of the wave window; the platform and a fresh state from the fixture.
+class MemoryWaveWindowTest : public WaveWindowTest {
   protected:
-    MemoryWaveWindowTest()
-    {
-        ResetProgramState();
-        LoadMessages();
-        MemoryWaveSlots[0].Name = QStringLiteral("MemoryWave1");
-    }
+    MemoryWaveWindowTest() { MemoryWaveSlots[0].Name = QStringLiteral("MemoryWave1"); }
     ~MemoryWaveWindowTest() override { delete window; }
 
     // CH1 and CH2 on (or as given), 600 samples each, then the window and its first layout.
@@ -58,16 +50,8 @@ class MemoryWaveWindowTest : public ::testing::Test {
     {
         return Named<T>(window, QString::fromLatin1(name));
     }
-    QStringList boxTexts() const
-    {
-        QStringList texts;
-        for (const RecordedBox& box : platform->boxes)
-            texts << box.text;
-        return texts;
-    }
     MemoryWaveSlot& slot() const { return MemoryWaveSlots[0]; }
 
-    ScopedTestPlatform platform;
     frmOpenWaveform* window = nullptr;
 };
 
