@@ -1,6 +1,8 @@
 // The fine adjust dialog: a held step button repeats until released, and the
 // coarse or fine choice of a channel survives the dialog's closing.
 
+#include "frmwave_fixture.h"
+
 #include "controller/ctrlstate.h"
 #include "controller/fineadjust.h"
 #include "controller/frmCtrlDialogAdjust.h"
@@ -11,11 +13,7 @@
 
 namespace {
 
-class AdjustDialogTest : public ::testing::Test {
-  protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
-};
+using AdjustDialogTest = WaveWindowTest; // a fresh program state
 
 TEST_F(AdjustDialogTest, HeldButtonRepeatsUntilReleaseAndTheModeIsKept)
 {

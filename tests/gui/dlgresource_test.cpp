@@ -39,11 +39,16 @@ TEST_F(DlgResourceTest, CaptionsFollowTheLanguage)
     EXPECT_EQ(dialog.findChild<QComboBox*>("cmbResource"), dialog.cmbResource);
 }
 
-TEST_F(DlgResourceTest, OkTakesTheTextOfTheList)
+TEST_F(DlgResourceTest, OkTakesTheTextOfTheListAndCancelNothing)
 {
     ResourceName = rows[1];
     frmDlgResource dialog;
     dialog.SetResourceRows(rows);
+    dialog.cmdCancel->click();
+    EXPECT_FALSE(dialog.GetOkCancel());
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_EQ(ResourceName, rows[1]);
+
     EXPECT_EQ(dialog.cmbResource->count(), 3);
     EXPECT_EQ(dialog.cmbResource->currentText(), rows[1]) << "the chosen resource is shown first";
 
@@ -58,17 +63,6 @@ TEST_F(DlgResourceTest, OkTakesTheTextOfTheList)
     dialog.cmbResource->setEditText("TCPIP0::127.0.0.1::5025::SOCKET");
     dialog.cmdOK->click();
     EXPECT_EQ(ResourceName, "TCPIP0::127.0.0.1::5025::SOCKET") << "a typed resource is taken as it stands";
-}
-
-TEST_F(DlgResourceTest, CancelChangesNothing)
-{
-    ResourceName = "kept";
-    frmDlgResource dialog;
-    dialog.SetResourceRows(rows);
-    dialog.cmdCancel->click();
-    EXPECT_FALSE(dialog.GetOkCancel());
-    EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    EXPECT_EQ(ResourceName, "kept");
 }
 
 TEST_F(DlgResourceTest, DoubleClickOnARowActsAsOk)

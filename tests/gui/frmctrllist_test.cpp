@@ -1,6 +1,8 @@
 // The controller pane: expansion kept over a rebuild, the rules that read the
 // Format node, the connection check, and the file commands' questions.
 
+#include "frmwave_fixture.h"
+
 #include "controller/ctrlstate.h"
 #include "controller/ctrltree.h"
 #include "controller/download.h"
@@ -20,13 +22,10 @@
 
 namespace {
 
-class CtrlListTest : public ::testing::Test {
+class CtrlListTest : public WaveWindowTest {
   protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override { ResetProgramState(); }
     void relayout() { Q_EMIT CtrlNotifier().recordChanged(); }
 
-    ScopedTestPlatform platform;
     frmCtrlList list;
 };
 

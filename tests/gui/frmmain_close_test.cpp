@@ -16,33 +16,23 @@ class CloseTest : public MainWindowTest {
     }
 };
 
-TEST_F(CloseTest, CancelInTheSheetBoxKeepsTheProgramAndWritesNothing)
+TEST_F(CloseTest, CancelInEitherBoxKeepsTheProgramAndWritesNothing)
 {
-    DataSheetDirty = true;
+    DataSheetDirty = CtrlDirty = true;
     DataSheetName = "Bench run";
-    CtrlDirty = true;
+    CtrlFileName = "/bench/scope.rmt";
     test->boxAnswers = {vbCancel};
     EXPECT_FALSE(window->close());
-    EXPECT_TRUE(window->isVisible());
     ASSERT_EQ(test->boxes.size(), 1) << "the control file is not asked about";
     EXPECT_EQ(test->boxes[0].text, "Save the changes to the Data Sheet File? Bench run");
     EXPECT_EQ(test->boxes[0].style, vbYesNoCancel);
-    EXPECT_EQ(storedSettingCount(), 0);
-    EXPECT_EQ(instrument->countOf("close 11"), 0);
-}
-
-TEST_F(CloseTest, CancelInTheControlFileBoxKeepsTheProgramAndWritesNothing)
-{
-    DataSheetDirty = true;
-    CtrlDirty = true;
-    CtrlFileName = "/bench/scope.rmt";
     test->boxAnswers = {vbNo, vbCancel};
     EXPECT_FALSE(window->close());
+    ASSERT_EQ(test->boxes.size(), 3);
+    EXPECT_EQ(test->boxes[2].text, "Save the changes to the Control File? /bench/scope.rmt");
     EXPECT_TRUE(window->isVisible());
-    ASSERT_EQ(test->boxes.size(), 2);
-    EXPECT_EQ(test->boxes[0].text, "Save the changes to the Data Sheet File? ");
-    EXPECT_EQ(test->boxes[1].text, "Save the changes to the Control File? /bench/scope.rmt");
     EXPECT_EQ(storedSettingCount(), 0);
+    EXPECT_EQ(instrument->countOf("close 11"), 0);
 }
 
 TEST_F(CloseTest, TheQuestionsSpeakTheLanguageInForce)

@@ -32,22 +32,18 @@ TEST_F(MainWindowTest, AStartupCheckWithoutInstrumentWarnsBeforeTheWindowShows)
     EXPECT_FALSE(find<QLabel>("picLED_ON")->isVisible());
 }
 
-TEST_F(MainWindowTest, AStartupCheckWithAnInstrumentStartsConnected)
-{
-    setStartupCheck();
-    instrument->resources = {"USB0::0x1::0x2::SN::INSTR"};
-    load();
-    EXPECT_TRUE(test->boxes.isEmpty());
-    EXPECT_TRUE(Connected);
-    EXPECT_TRUE(find<QLabel>("picLED_ON")->isVisible());
-}
-
-TEST_F(MainWindowTest, WithoutTheCheckNothingIsOpened)
+TEST_F(MainWindowTest, OnlyAStartupCheckConnectsToAnInstrumentThere)
 {
     instrument->resources = {"USB0::0x1::0x2::SN::INSTR"};
     load();
     EXPECT_FALSE(Connected);
     EXPECT_TRUE(instrument->writes.empty());
+    window.reset();
+    setStartupCheck();
+    load();
+    EXPECT_TRUE(test->boxes.isEmpty());
+    EXPECT_TRUE(Connected);
+    EXPECT_TRUE(find<QLabel>("picLED_ON")->isVisible());
 }
 
 TEST_F(MainWindowTest, TheWindowTakesItsPlaceFromTheSettingsInTwips)
@@ -59,16 +55,12 @@ TEST_F(MainWindowTest, TheWindowTakesItsPlaceFromTheSettingsInTwips)
     EXPECT_EQ(window->height(), 600);
 }
 
-TEST_F(MainWindowTest, EmptyRecentListsHideTheirMenusAndSeparator)
-{
-    load();
-    EXPECT_FALSE(find<QMenu>("mnuRecentCtrlRoot")->menuAction()->isVisible());
-    EXPECT_FALSE(find<QMenu>("mnuRecentSheetRoot")->menuAction()->isVisible());
-    EXPECT_FALSE(find("mnuFileBar3")->isVisible());
-}
-
 TEST_F(MainWindowTest, RecentEntriesShowTheListNewestFirst)
 {
+    load();
+    EXPECT_FALSE(find<QMenu>("mnuRecentSheetRoot")->menuAction()->isVisible()) << "an empty list is hidden";
+    EXPECT_FALSE(find("mnuFileBar3")->isVisible());
+    window.reset();
     AddRecent(RecentSheetSection, "/bench/a.kvs");
     load();
     EXPECT_TRUE(find<QMenu>("mnuRecentSheetRoot")->menuAction()->isVisible());

@@ -25,37 +25,9 @@ class StatusTest : public MainWindowTest {
     QString panel() const { return find<QLabel>("Status")->text(); }
 };
 
-TEST_F(StatusTest, AFramingErrorShowsForTheCommTimersSpan)
-{
-    EXPECT_EQ(panel(), "Status: ");
-    auto* timer = find<QTimer>("CommTimer");
-    EXPECT_FALSE(timer->isActive());
-    window->MSComm1_OnComm(comEventFrame);
-    EXPECT_EQ(panel(), "Status: Framing Error");
-    EXPECT_TRUE(timer->isActive());
-    EXPECT_EQ(timer->interval(), 2000);
-    window->CommTimer_Timer();
-    EXPECT_EQ(panel(), "Status: ");
-    EXPECT_FALSE(timer->isActive());
-}
-
-TEST_F(StatusTest, PortErrorsReachThePanel)
-{
-    Q_EMIT MSComm1().errorOccurred(QSerialPort::NoError);
-    EXPECT_EQ(panel(), "Status: ");
-    Q_EMIT MSComm1().errorOccurred(QSerialPort::ReadError);
-    EXPECT_EQ(panel(), "Status: Overrun Error");
-}
-
-TEST_F(StatusTest, SendAndReceiveEventsLeaveThePanel)
-{
-    window->MSComm1_OnComm(comEvReceive);
-    window->MSComm1_OnComm(comEvSend);
-    EXPECT_EQ(panel(), "Status: ");
-    EXPECT_FALSE(find<QTimer>("CommTimer")->isActive());
-}
-
-TEST_F(StatusTest, TimersHaveTheirIntervalsAndStates)
+// The timers' intervals and states after loading, and what the port's events
+// leave in the panel: an error shows for the comm timer's span.
+TEST_F(StatusTest, TimersAndPortEventsDriveThePanel)
 {
     struct TimerState {
         const char* name;
@@ -68,18 +40,30 @@ TEST_F(StatusTest, TimersHaveTheirIntervalsAndStates)
         EXPECT_EQ(find<QTimer>(t.name)->interval(), t.interval) << t.name;
         EXPECT_EQ(find<QTimer>(t.name)->isActive(), t.active) << t.name;
     }
-}
-
-TEST_F(StatusTest, TheTimeOutTimerCountsTicks)
-{
     ReplyTicks = LinkTicks = 0;
     window->TimeOutTimer_Timer();
     window->TimeOutTimer_Timer();
     EXPECT_EQ(ReplyTicks, 2);
     EXPECT_EQ(LinkTicks, 2);
+
+    auto* timer = find<QTimer>("CommTimer");
+    EXPECT_EQ(panel(), "Status: ");
+    window->MSComm1_OnComm(comEvReceive);
+    window->MSComm1_OnComm(comEvSend);
+    Q_EMIT MSComm1().errorOccurred(QSerialPort::NoError);
+    EXPECT_EQ(panel(), "Status: ");
+    EXPECT_FALSE(timer->isActive());
+    window->MSComm1_OnComm(comEventFrame);
+    EXPECT_EQ(panel(), "Status: Framing Error");
+    EXPECT_TRUE(timer->isActive());
+    window->CommTimer_Timer();
+    EXPECT_EQ(panel(), "Status: ");
+    EXPECT_FALSE(timer->isActive());
+    Q_EMIT MSComm1().errorOccurred(QSerialPort::ReadError);
+    EXPECT_EQ(panel(), "Status: Overrun Error");
 }
 
-TEST_F(StatusTest, OneLampAtATimeFollowsTheLink)
+TEST_F(StatusTest, OneLampAtATimeFollowsTheLinkAtTheEndOfTheBar)
 {
     auto* on = find<QLabel>("picLED_ON");
     auto* off = find<QLabel>("picLED_OFF");
@@ -94,15 +78,10 @@ TEST_F(StatusTest, OneLampAtATimeFollowsTheLink)
     EXPECT_FALSE(Connected);
     EXPECT_FALSE(on->isVisible());
     EXPECT_TRUE(off->isVisible());
-}
-
-TEST_F(StatusTest, LampsMoveTogetherToTheEndOfTheBar)
-{
+    // Both stand together at the end of the bar.
     for (int width : {500, 900}) {
         window->resize(width, 500);
         QCoreApplication::processEvents();
-        auto* on = find<QLabel>("picLED_ON");
-        auto* off = find<QLabel>("picLED_OFF");
         const int barWidth = find<QStatusBar>("sbrStatus")->width();
         EXPECT_EQ(on->x(), off->x());
         EXPECT_EQ(on->y(), off->y());
@@ -111,7 +90,7 @@ TEST_F(StatusTest, LampsMoveTogetherToTheEndOfTheBar)
     }
 }
 
-TEST_F(StatusTest, ViewEntriesToggleTheirBarsAndPanes)
+TEST_F(StatusTest, ViewEntriesToggleTheirBarsAndPanesAndTheWindowMenuTiles)
 {
     EXPECT_TRUE(pane("DataSheet")->isVisible());
     EXPECT_TRUE(pane("Controller")->isVisible());
@@ -130,10 +109,8 @@ TEST_F(StatusTest, ViewEntriesToggleTheirBarsAndPanes)
     EXPECT_FALSE(find<QStatusBar>("sbrStatus")->isVisible());
     find("mnuViewToolbar")->trigger();
     EXPECT_FALSE(find<QToolBar>("tbToolBar")->isVisible());
-}
 
-TEST_F(StatusTest, TheWindowMenuTilesTheChildWindows)
-{
+    // The window menu tiles the child windows.
     QMdiArea* area = window->mdiArea();
     QMdiSubWindow* first = area->addSubWindow(new QWidget);
     QMdiSubWindow* second = area->addSubWindow(new QWidget);

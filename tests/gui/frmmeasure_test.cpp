@@ -1,6 +1,8 @@
 // The measure window, its limits dialog and the data window, offscreen: rows
 // judged from a record, the dialog's guards and its OK rule, the data table's
 // columns and row numbers, and the channel options following the instrument.
+#include "frmwave_fixture.h"
+
 #include "analysis/datarecord.h"
 #include "analysis/frmData.h"
 #include "analysis/frmMeasure.h"
@@ -26,25 +28,11 @@ constexpr int PeriodRow = 11;
 constexpr int PeriodSlot = 10;
 constexpr int VmaxSlot = 1;
 
-class AnalysisWindowTest : public ::testing::Test {
+class AnalysisWindowTest : public WaveWindowTest {
   protected:
     AnalysisWindowTest()
     {
-        ResetProgramState();
         InstrumentDisplaySwitches = [] { return DisplaySwitches{false, true, true, false, false}; };
-    }
-    ~AnalysisWindowTest() override
-    {
-        area.closeAllSubWindows();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        InstrumentDisplaySwitches = nullptr;
-        ResetProgramState();
-    }
-    template <typename T> static T* control(QObject* owner, const QString& name)
-    {
-        T* found = owner->findChild<T*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return found;
     }
     static QStringList rowTexts(QTreeWidget* view, int row)
     {
@@ -53,9 +41,6 @@ class AnalysisWindowTest : public ::testing::Test {
             texts << view->topLevelItem(row)->text(column);
         return texts;
     }
-
-    ScopedTestPlatform platform;
-    QMdiArea area;
 };
 
 TEST_F(AnalysisWindowTest, MeasureRowsShowPassAndFail)
@@ -68,35 +53,25 @@ TEST_F(AnalysisWindowTest, MeasureRowsShowPassAndFail)
     record.Items[7] = {"9.9E+37", false, 0, 0, {}};
     frmMeasure* window = CreateMeasureWindow(&area, 2);
     QCoreApplication::processEvents();
-    auto* view = control<QTreeWidget>(window, "MeasureView");
+    auto* view = Named<QTreeWidget>(window, "MeasureView");
     ASSERT_EQ(view->topLevelItemCount(), 18);
     EXPECT_EQ(rowTexts(view, 0), QStringList({"Vpp", "2.000V", "1.000V", "3.000V", "Pass"}));
     EXPECT_EQ(rowTexts(view, 1),
               QStringList({"Vmax", "1.000V", "0.000uV", "500.000mV", "Fail [Over Limit]"}));
     EXPECT_EQ(rowTexts(view, 10), QStringList({"Frequency", "9.9E+37", "", "", ""}));
-    EXPECT_EQ(control<QLabel>(window, "SettingLabel")->text(), "CH2 1.00V");
+    EXPECT_EQ(Named<QLabel>(window, "SettingLabel")->text(), "CH2 1.00V");
     EXPECT_TRUE(record.Shown);
     // The options follow the instrument: CH1 off, CH2 the first shown.
-    EXPECT_FALSE(control<QRadioButton>(window, "OptionCH_0")->isEnabled());
-    EXPECT_TRUE(control<QRadioButton>(window, "OptionCH_1")->isChecked());
+    EXPECT_FALSE(Named<QRadioButton>(window, "OptionCH_0")->isEnabled());
+    EXPECT_TRUE(Named<QRadioButton>(window, "OptionCH_1")->isChecked());
     EXPECT_EQ(window->selectedChannel(), 2);
-}
-
-TEST_F(AnalysisWindowTest, RefreshWithoutALinkAsksForOne)
-{
-    frmMeasure* window = CreateMeasureWindow(&area, 0);
-    QCoreApplication::processEvents();
-    control<QPushButton>(window, "cmdRefresh")->click();
-    ASSERT_EQ(platform->boxes.size(), 1);
-    EXPECT_EQ(platform->boxes[0].text, "Please Connect Oscilloscope First!");
-    EXPECT_FALSE(MeasureRecords[0].HasData);
 }
 
 TEST_F(AnalysisWindowTest, DataTableNumbersRowsFromOneAndAddsThePeakColumn)
 {
     frmData* window = CreateDataWindow(&area, 1);
     QCoreApplication::processEvents();
-    auto* view = control<QTreeWidget>(window, "MeasureView");
+    auto* view = Named<QTreeWidget>(window, "MeasureView");
     EXPECT_EQ(view->topLevelItemCount(), 1000);
     EXPECT_EQ(view->columnCount(), 3);
     DataRecord& record = DataRecords[1];
@@ -117,7 +92,7 @@ TEST_F(AnalysisWindowTest, DataTableNumbersRowsFromOneAndAddsThePeakColumn)
     EXPECT_EQ(view->headerItem()->text(3), "Voltage2[V]");
     EXPECT_EQ(rowTexts(view, 0), QStringList({"1", "t5", "v5", "w5"}));
     EXPECT_EQ(rowTexts(view, 3), QStringList({"4", "t8", "v8", "w8"}));
-    control<QRadioButton>(window, "OptionCH_2")->click();
+    Named<QRadioButton>(window, "OptionCH_2")->click();
     EXPECT_EQ(record.Channel, "CH3");
 }
 
@@ -128,18 +103,18 @@ class PassFailedTest : public AnalysisWindowTest {
         MeasureRecords[0].Items[PeriodSlot] = {"1.000ms", true, 2e-3, 1.23456e-3, {}};
         dialog = std::make_unique<frmPassFailed>(0, "Measure0");
         dialog->Timer1_Timer();
-        combo = control<QComboBox>(dialog.get(), "MTypeCombo");
-        under = control<QLineEdit>(dialog.get(), "UnderNum");
-        over = control<QLineEdit>(dialog.get(), "OverNum");
-        enabled = control<QCheckBox>(dialog.get(), "EnabledChk");
+        combo = Named<QComboBox>(dialog.get(), "MTypeCombo");
+        under = Named<QLineEdit>(dialog.get(), "UnderNum");
+        over = Named<QLineEdit>(dialog.get(), "OverNum");
+        enabled = Named<QCheckBox>(dialog.get(), "EnabledChk");
     }
     const MeasureItem& item(int slot) const { return dialog->copy().Items[size_t(slot)]; }
     // Enables the selected item and puts both its limits in volts.
     void enableSelected()
     {
         if (!enabled->isChecked()) enabled->click();
-        control<QComboBox>(dialog.get(), "UnderUnit")->setCurrentText("V");
-        control<QComboBox>(dialog.get(), "OverUnit")->setCurrentText("V");
+        Named<QComboBox>(dialog.get(), "UnderUnit")->setCurrentText("V");
+        Named<QComboBox>(dialog.get(), "OverUnit")->setCurrentText("V");
     }
 
     std::unique_ptr<frmPassFailed> dialog;
@@ -161,7 +136,7 @@ TEST_F(PassFailedTest, TypingSetsTheLimitAndAMinusAloneWaits)
     EXPECT_EQ(item(0).UnderLimit, 0);
     under->setText("-2.5");
     EXPECT_DOUBLE_EQ(item(0).UnderLimit, -2.5);
-    control<QComboBox>(dialog.get(), "UnderUnit")->setCurrentText("mV");
+    Named<QComboBox>(dialog.get(), "UnderUnit")->setCurrentText("mV");
     EXPECT_DOUBLE_EQ(item(0).UnderLimit, -2.5e-3);
     over->setText("1x");
     ASSERT_EQ(platform->boxes.size(), 1);
@@ -184,7 +159,7 @@ TEST_F(PassFailedTest, SwitchingFamilyFiresNoChangeHandler)
 {
     combo->setCurrentIndex(PeriodRow);
     EXPECT_EQ(under->text(), "1.235");
-    EXPECT_EQ(control<QComboBox>(dialog.get(), "UnderUnit")->currentText(), "ms");
+    EXPECT_EQ(Named<QComboBox>(dialog.get(), "UnderUnit")->currentText(), "ms");
     EXPECT_EQ(item(PeriodSlot).UnderLimit, 1.23456e-3) << "the shown text must not be parsed back";
     combo->setCurrentIndex(0);
     EXPECT_EQ(item(PeriodSlot).UnderLimit, 1.23456e-3);
@@ -199,7 +174,7 @@ TEST_F(PassFailedTest, OkChecksOnlyVpp)
     MeasureRecords[0].Items[VmaxSlot].OverLimit = 0;
     over->setText("1");
     under->setText("5");
-    control<QPushButton>(dialog.get(), "OKButton")->click();
+    Named<QPushButton>(dialog.get(), "OKButton")->click();
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
     EXPECT_DOUBLE_EQ(MeasureRecords[0].Items[VmaxSlot].UnderLimit, 5);
     EXPECT_TRUE(MeasureRecords[0].Items[VmaxSlot].Enabled);
@@ -209,8 +184,8 @@ TEST_F(PassFailedTest, OkChecksOnlyVpp)
     frmPassFailed second(0, "Measure0");
     second.Timer1_Timer();
     second.show();
-    control<QComboBox>(&second, "MTypeCombo")->setCurrentIndex(1);
-    control<QPushButton>(&second, "OKButton")->click();
+    Named<QComboBox>(&second, "MTypeCombo")->setCurrentIndex(1);
+    Named<QPushButton>(&second, "OKButton")->click();
     EXPECT_TRUE(second.isVisible());
     EXPECT_DOUBLE_EQ(MeasureRecords[0].Items[0].UnderLimit, 4) << "nothing is written back";
 }

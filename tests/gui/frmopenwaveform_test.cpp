@@ -1,13 +1,11 @@
-#include "platform/testplatform.h"
 #include "document/sheetstate.h"
-#include "state/programstate.h"
+#include "frmwave_fixture.h"
 #include "stored/frmOpenWaveform.h"
 #include "stored/memorysteps.h"
 #include "stored/memorywavecsv.h"
-#include "stored/wfmfile.h"
-#include "text/messages.h"
-#include "wave/frmWavePrint.h"
 #include "stored/wfmbytes.h"
+#include "stored/wfmfile.h"
+#include "wave/frmWavePrint.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -15,7 +13,6 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMdiArea>
 #include <QPrinter>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -33,14 +30,10 @@ WfmBytes withChannels(std::initializer_list<int> channels, bool alternation = fa
     return file;
 }
 
-class MemoryWaveWindowTest : public ::testing::Test {
+// Its own window in place of the wave window; the platform and a fresh state from the fixture.
+class MemoryWaveWindowTest : public WaveWindowTest {
   protected:
-    MemoryWaveWindowTest()
-    {
-        ResetProgramState();
-        LoadMessages();
-        MemoryWaveSlots[0].Name = QStringLiteral("MemoryWave1");
-    }
+    MemoryWaveWindowTest() { MemoryWaveSlots[0].Name = QStringLiteral("MemoryWave1"); }
     ~MemoryWaveWindowTest() override { delete window; }
 
     // CH1 and CH2 on (or as given), 600 samples each, then the window and its first layout.
@@ -55,20 +48,10 @@ class MemoryWaveWindowTest : public ::testing::Test {
     }
     template <typename T> T* control(const char* name) const
     {
-        T* found = window->findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-    QStringList boxTexts() const
-    {
-        QStringList texts;
-        for (const RecordedBox& box : platform->boxes)
-            texts << box.text;
-        return texts;
+        return Named<T>(window, QString::fromLatin1(name));
     }
     MemoryWaveSlot& slot() const { return MemoryWaveSlots[0]; }
 
-    ScopedTestPlatform platform;
     frmOpenWaveform* window = nullptr;
 };
 

@@ -1,11 +1,12 @@
 // The record window offscreen: the prompt and grey bar without a file, opening,
 // a single run played to its end, the bar in each state, a refused file, the
 // time buttons, and the data sheet's Record windows.
+#include "guitest.h"
 #include "mainwindowfixture.h"
 #include "stored/rcdbuilder.h"
 
-#include "sheet/frmDataSheetTree.h"
 #include "document/sheetstate.h"
+#include "sheet/frmDataSheetTree.h"
 #include "stored/frmRecordPlay.h"
 #include "stored/recordslot.h"
 
@@ -48,12 +49,7 @@ class RecordPlayWindowTest : public ::testing::Test {
         test->openPaths << writeFile(file);
         click("cmdOpen");
     }
-    template <typename T> T* find(const QString& name) const
-    {
-        T* found = window->findChild<T*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return found;
-    }
+    template <typename T> T* find(const QString& name) const { return Named<T>(window.get(), name); }
     void click(const QString& name) { find<QAbstractButton>(name)->click(); }
     void clickBar(int index) { click(QStringLiteral("AresBtnPlay_%1").arg(index)); }
     QString bar() const
@@ -120,13 +116,8 @@ TEST_F(RecordPlayWindowTest, ASingleRunPlaysToItsEndAndPauses)
     clickBar(RecordBtnStop);
     EXPECT_EQ(status(), "Stop 1/5");
     EXPECT_EQ(bar(), "10011111");
-}
-
-TEST_F(RecordPlayWindowTest, TheSliderSetsTheFrame)
-{
-    open(RcdBuilder(5));
     find<QSlider>("SliderFrame")->setValue(3);
-    EXPECT_EQ(RecordSlots[0].CurrentFrame, 3);
+    EXPECT_EQ(RecordSlots[0].CurrentFrame, 3) << "the slider sets the frame";
     EXPECT_EQ(status(), "Stop 3/5");
 }
 

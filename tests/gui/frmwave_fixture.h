@@ -2,6 +2,7 @@
 // Wave windows under test: a fresh program state, a recording platform and an
 // MDI area to put windows in; optionally the simulator on a socket link.
 
+#include "guitest.h"
 #include "platform/testplatform.h"
 #include "wave/frmWave.h"
 
@@ -28,9 +29,7 @@ class WaveWindowTest : public ::testing::Test {
 
     template <typename T> T* control(const char* name) const
     {
-        T* found = window->findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
+        return Named<T>(window, QString::fromLatin1(name));
     }
 
     ScopedTestPlatform platform;

@@ -107,61 +107,53 @@ TEST_F(SimWaveWindowTest, AWindowWithNoWantedChannelReadsNothing)
     EXPECT_FALSE(DataSheetDirty);
 }
 
-TEST_F(WaveWindowTest, RefreshWithoutALinkAsksForOne)
-{
-    open();
-    WaveRecords[0].ShowCH1 = true;
-    control<QPushButton>("cmdRefresh")->click();
-    ASSERT_EQ(platform->boxes.size(), 1);
-    EXPECT_EQ(platform->boxes[0].text, "Please Connect Oscilloscope First!");
-    EXPECT_EQ(platform->boxes[0].style, vbExclamation);
-    EXPECT_FALSE(WaveRecords[0].HasData);
-}
-
-TEST_F(WaveWindowTest, RefreshWhileConnectingDoesNothing)
-{
-    open();
-    WaveRecords[0].ShowCH1 = true;
-    Connecting = true;
-    control<QPushButton>("cmdRefresh")->click();
-    EXPECT_TRUE(platform->boxes.isEmpty());
-    EXPECT_EQ(RefreshingWaveSlot, 0);
-}
-
-struct KeyCase {
+// Without a link a refresh asks for one; while connecting or while a record
+// replays it does nothing; F5 refreshes only without Ctrl or Shift.
+struct RefusalCase {
     const char* name;
+    bool* held; // the flag set during the press, or none
+    int key;    // 0: the button
     Qt::KeyboardModifiers modifiers;
     int boxes;
+    int refreshingSlot;
 };
 
-class RefreshKey : public WaveWindowTest, public ::testing::WithParamInterface<KeyCase> {};
+class RefusedRefresh : public WaveWindowTest, public ::testing::WithParamInterface<RefusalCase> {};
 
-TEST_P(RefreshKey, F5RefreshesOnlyWithoutCtrlOrShift)
+TEST_P(RefusedRefresh, AsksForALinkOrDoesNothing)
 {
     frmWave& wave = open();
     WaveRecords[0].ShowCH1 = true;
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_F5, GetParam().modifiers);
-    QCoreApplication::sendEvent(&wave, &press);
-    EXPECT_EQ(platform->boxes.size(), GetParam().boxes) << "without a link a refresh asks for one";
+    if (GetParam().held) *GetParam().held = true;
+    if (GetParam().key) {
+        QKeyEvent press(QEvent::KeyPress, GetParam().key, GetParam().modifiers);
+        QCoreApplication::sendEvent(&wave, &press);
+    } else {
+        control<QPushButton>("cmdRefresh")->click();
+    }
+    if (GetParam().held) *GetParam().held = false;
+    ASSERT_EQ(platform->boxes.size(), GetParam().boxes);
+    if (GetParam().boxes) {
+        EXPECT_EQ(platform->boxes[0].text, "Please Connect Oscilloscope First!");
+        EXPECT_EQ(platform->boxes[0].style, vbExclamation);
+    }
+    EXPECT_FALSE(WaveRecords[0].HasData);
+    if (GetParam().refreshingSlot != -2) {
+        EXPECT_EQ(RefreshingWaveSlot, GetParam().refreshingSlot);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, RefreshKey,
-                         ::testing::Values(KeyCase{"Plain", Qt::NoModifier, 1},
-                                           KeyCase{"Ctrl", Qt::ControlModifier, 0},
-                                           KeyCase{"Shift", Qt::ShiftModifier, 0},
-                                           KeyCase{"CtrlShift", Qt::ControlModifier | Qt::ShiftModifier, 0}),
-                         [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(WaveWindowTest, HeldOffRefreshDoesNothing)
-{
-    open();
-    WaveRecords[0].ShowCH1 = true;
-    RecordRunBusy = true; // a record replays
-    control<QPushButton>("cmdRefresh")->click();
-    RecordRunBusy = false;
-    EXPECT_TRUE(platform->boxes.isEmpty());
-    EXPECT_EQ(RefreshingWaveSlot, -1);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Presses, RefusedRefresh,
+    ::testing::Values(RefusalCase{"NoLink", nullptr, 0, Qt::NoModifier, 1, -2},
+                      RefusalCase{"Connecting", &Connecting, 0, Qt::NoModifier, 0, 0},
+                      RefusalCase{"RecordReplays", &RecordRunBusy, 0, Qt::NoModifier, 0, -1},
+                      RefusalCase{"F5", nullptr, Qt::Key_F5, Qt::NoModifier, 1, -2},
+                      RefusalCase{"CtrlF5", nullptr, Qt::Key_F5, Qt::ControlModifier, 0, -2},
+                      RefusalCase{"ShiftF5", nullptr, Qt::Key_F5, Qt::ShiftModifier, 0, -2},
+                      RefusalCase{"CtrlShiftF5", nullptr, Qt::Key_F5, Qt::ControlModifier | Qt::ShiftModifier,
+                                  0, -2}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 namespace {
 

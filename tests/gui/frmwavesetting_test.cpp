@@ -1,6 +1,7 @@
 // The FFT dialog: which wave windows it can target, what a target allows, and
 // what OK leaves in the target's record and window.
 #include "frmwave_fixture.h"
+#include "guitest.h"
 
 #include "acquire/waverecord.h"
 #include "sheet/sheetslots.h"
@@ -38,9 +39,7 @@ class WaveSettingTest : public WaveWindowTest {
     }
     template <typename T> T* part(const char* name) const
     {
-        T* found = setting->findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
+        return Named<T>(setting.get(), QString::fromLatin1(name));
     }
     std::unique_ptr<frmWaveSetting> setting;
 };

@@ -2,16 +2,20 @@
 // (shortcuts first, then the focused control): F1 opens the help viewer on the
 // manual of the language in force, the file menu's shortcuts reach their
 // entries, and F5 in the measure and data windows refreshes as their button does.
+// Also the About box's version and a missing help file.
+#include "frmwave_fixture.h"
 #include "mainwindowfixture.h"
 
 #include "analysis/frmData.h"
 #include "analysis/frmMeasure.h"
+#include "frame/frmAbout.h"
 #include "frame/frmHelp.h"
 #include "text/language.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMdiArea>
 #include <QPushButton>
 #include <QTextBrowser>
@@ -32,6 +36,34 @@ void pressKey(QWidget* window, int key, Qt::KeyboardModifiers modifiers = Qt::No
     if (qt_sendShortcutOverrideEvent(focus, 0, key, modifiers)) return;
     QKeyEvent press(QEvent::KeyPress, key, modifiers);
     QApplication::sendEvent(focus, &press);
+}
+
+using AboutAndHelp = WaveWindowTest;
+
+TEST_F(AboutAndHelp, AClickOnTheIconTellsTheVersion)
+{
+    frmAbout about;
+    about.show();
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(4, 4), QPointF(4, 4), Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(about.findChild<QLabel*>("picIcon"), &release);
+    ASSERT_EQ(platform->boxes.size(), 1);
+    EXPECT_EQ(platform->boxes[0].text, "00.01.05.00.00");
+    EXPECT_EQ(platform->boxes[0].title, "Version");
+    EXPECT_EQ(platform->boxes[0].style, vbOKOnly);
+}
+
+// Without a help folder set, the test program has no help pages beside it.
+TEST_F(AboutAndHelp, AMissingHelpFileIsToldWithItsReason)
+{
+    for (int language : {LanguageEnglish, LanguageChinese}) {
+        platform->clearRecords();
+        EXPECT_FALSE(OpenHelpFile(language));
+        ASSERT_EQ(platform->boxes.size(), 1);
+        const QString text = platform->boxes[0].text;
+        EXPECT_TRUE(text.endsWith(HelpFilePath(language))) << qPrintable(text);
+        EXPECT_TRUE(text.contains("No such file")) << qPrintable(text);
+    }
 }
 
 class HelpKeyTest : public MainWindowTest {
@@ -126,27 +158,16 @@ struct TableKeyCase {
     bool refreshes;
 };
 
-class TableRefreshKey : public ::testing::TestWithParam<TableKeyCase> {
+class TableRefreshKey : public WaveWindowTest, public ::testing::WithParamInterface<TableKeyCase> {
   protected:
-    void SetUp() override { ResetProgramState(); }
-    void TearDown() override
-    {
-        area.closeAllSubWindows();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        ResetProgramState();
-    }
     QWidget* open()
     {
-        area.resize(800, 600);
-        area.show();
         QWidget* window = GetParam().measure ? static_cast<QWidget*>(CreateMeasureWindow(&area, 0))
                                              : static_cast<QWidget*>(CreateDataWindow(&area, 0));
         QCoreApplication::processEvents();
         window->findChild<QTreeWidget*>("MeasureView")->setFocus();
         return window;
     }
-    ScopedTestPlatform platform;
-    QMdiArea area;
 };
 
 // Without a link a refresh asks for one: the button's box is the mark of a refresh.
@@ -156,6 +177,7 @@ TEST_P(TableRefreshKey, F5RefreshesAsTheButtonDoes)
     window->findChild<QPushButton*>("cmdRefresh")->click();
     ASSERT_EQ(platform->boxes.size(), 1);
     const QString asked = platform->boxes[0].text;
+    EXPECT_EQ(asked, "Please Connect Oscilloscope First!");
     platform->clearRecords();
     pressKey(&area, Qt::Key_F5, GetParam().modifiers);
     ASSERT_EQ(platform->boxes.size(), GetParam().refreshes ? 1 : 0);

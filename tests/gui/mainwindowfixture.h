@@ -3,6 +3,7 @@
 // (no resources unless a test lists some) in place of the VISA library.
 
 #include "frame/frmMain.h"
+#include "guitest.h"
 #include "platform/testplatform.h"
 #include "state/programstate.h"
 #include "support/fakevisa.h"
@@ -45,9 +46,7 @@ class MainWindowTest : public ::testing::Test {
 
     template <typename T = QAction> T* find(const char* name) const
     {
-        T* found = window->findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
+        return Named<T>(window.get(), QString::fromLatin1(name));
     }
     QWidget* pane(const char* key) const;
     // The settings written so far, all sections of the frame.

@@ -1,6 +1,7 @@
 // The virtual keyboard against kv7200b-sim: every control of the key table
 // clicked once, a held repeat key ticking through the step table, the panel's
 // two differing keys, and selvane-cli key.
+#include "guitest.h"
 #include "panel_simlink.h"
 
 #include "link/connection.h"
@@ -29,15 +30,9 @@ struct KeyRow {
 
 QList<KeyRow> keyRows()
 {
-    QFile file(QStringLiteral(SELVANE_TEST_DATA "/gui/data/panel_keys.txt"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     QList<KeyRow> rows;
-    for (const QByteArray& line : file.readAll().split('\n')) {
-        if (line.isEmpty() || line.startsWith('#')) continue;
-        const QList<QByteArray> fields = line.split('\t');
-        rows.append({QString::fromLatin1(fields[0]),
-                     QString::fromLatin1(fields.value(1)).split(u'|', Qt::SkipEmptyParts)});
-    }
+    for (const QStringList& fields : ExpectationRows("panel_keys.txt"))
+        rows.append({fields[0], fields.value(1).split(u'|', Qt::SkipEmptyParts)});
     return rows;
 }
 

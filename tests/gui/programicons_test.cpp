@@ -1,32 +1,15 @@
-// The program's pictures load, and each window, toolbar button and tree node
-// carries the drawing of its kind.
-#include "frmwave_fixture.h"
+// The program's pictures load, and the main window, its toolbar buttons and its
+// tree nodes carry the drawings of their kinds (each child window's: window_sizes_test).
 #include "mainwindowfixture.h"
 
-#include "analysis/frmData.h"
-#include "analysis/frmMeasure.h"
-#include "analysis/frmPassFailed.h"
-#include "controller/frmCtrlDialog.h"
-#include "controller/frmCtrlDialogAdjust.h"
-#include "controller/frmCtrlList.h"
-#include "controller/frmPatternDlg.h"
 #include "document/programiconwidgets.h"
-#include "frame/frmAbout.h"
-#include "frame/frmOptions.h"
-#include "panel/frmV_Key.h"
-#include "panel/frmV_Panel.h"
 #include "sheet/frmDataSheetTree.h"
-#include "sheet/frmNewDoc.h"
-#include "stored/frmOpenWaveform.h"
-#include "stored/frmRecordPlay.h"
-#include "wave/frmWaveSetting.h"
 
 #include <QDir>
 #include <QMdiSubWindow>
 #include <QSet>
 #include <QToolBar>
 #include <QTreeWidget>
-#include <functional>
 
 namespace {
 
@@ -70,51 +53,6 @@ TEST(ProgramIcons, EveryPictureIsADrawingAndEveryDrawingAPicture)
     EXPECT_EQ(QSet<QString>(files.begin(), files.end()), named);
     EXPECT_TRUE(ProgramIcon(Picture(PictureCount)).isNull());
 }
-
-struct WindowCase {
-    const char* name;
-    Picture picture;
-    std::function<QWidget*(QMdiArea&)> make;
-};
-
-template <typename T> std::function<QWidget*(QMdiArea&)> plain()
-{
-    return [](QMdiArea&) -> QWidget* { return new T; };
-}
-
-class WindowIcons : public WaveWindowTest, public ::testing::WithParamInterface<WindowCase> {};
-
-TEST_P(WindowIcons, TheWindowCarriesThePictureOfItsKind)
-{
-    std::unique_ptr<QWidget> window(GetParam().make(area));
-    EXPECT_TRUE(shows(window->windowIcon(), GetParam().picture));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Windows, WindowIcons,
-    ::testing::Values(
-        WindowCase{"Wave", Picture::Wave, [](QMdiArea&) -> QWidget* { return new frmWave(0); }},
-        WindowCase{"Measure", Picture::Measure, [](QMdiArea&) -> QWidget* { return new frmMeasure(0); }},
-        WindowCase{"Data", Picture::Data, [](QMdiArea&) -> QWidget* { return new frmData(0); }},
-        WindowCase{"MemoryWave", Picture::MemoryWave,
-                   [](QMdiArea&) -> QWidget* { return new frmOpenWaveform(0); }},
-        WindowCase{"Record", Picture::Record, [](QMdiArea&) -> QWidget* { return new frmRecordPlay(0); }},
-        WindowCase{"PassFailed", Picture::Measure,
-                   [](QMdiArea&) -> QWidget* { return new frmPassFailed(0, "Measure0"); }},
-        WindowCase{"WaveSetting", Picture::Fft,
-                   [](QMdiArea& area) -> QWidget* { return new frmWaveSetting(&area); }},
-        WindowCase{"CtrlList", Picture::Controller, plain<frmCtrlList>()},
-        WindowCase{"CtrlDialog", Picture::CtrlSetting, plain<CtrlDialog>()},
-        WindowCase{"CtrlDialogAdjust", Picture::CtrlSetting, plain<CtrlDialogAdjust>()},
-        WindowCase{"Pattern", Picture::CtrlSetting, plain<PatternDlg>()},
-        WindowCase{"Keyboard", Picture::Keyboard, plain<frmV_Key>()},
-        WindowCase{"Panel", Picture::Panel, plain<frmV_Panel>()},
-        WindowCase{"Options", Picture::Options, plain<frmOptions>()},
-        WindowCase{"About", Picture::Program, plain<frmAbout>()},
-        WindowCase{"NewDoc", Picture::New, plain<frmNewDoc>()},
-        WindowCase{"OpenDoc", Picture::Open, plain<frmOpenDoc>()},
-        WindowCase{"DataSheetTree", Picture::DataBrowser, plain<frmDataSheetTree>()}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 using MainWindowIcons = MainWindowTest;
 

@@ -1,6 +1,9 @@
 #include "mainwindowfixture.h"
 
 #include "acquire/waverecord.h"
+#include "analysis/datarecord.h"
+#include "analysis/frmMeasure.h"
+#include "analysis/measurerecord.h"
 #include "document/sheetstate.h"
 #include "link/linkstate.h"
 #include "sheet/frmDataSheetTree.h"
@@ -38,11 +41,12 @@ class SheetTreeTest : public MainWindowTest {
             texts << root()->child(i)->text(0);
         return texts;
     }
-    QStringList windowTags() const
+    QStringList windowTags(bool kinds = false) const
     {
         QStringList tags;
         for (QMdiSubWindow* child : window->mdiArea()->subWindowList())
-            tags << child->widget()->windowTitle() + "=" + QString::number(WindowTag(child));
+            tags << (kinds ? child->widget()->objectName() + " " : QString()) +
+                        child->widget()->windowTitle() + "=" + QString::number(WindowTag(child));
         return tags;
     }
 
@@ -50,17 +54,14 @@ class SheetTreeTest : public MainWindowTest {
     QTreeWidget* tree = nullptr;
 };
 
-TEST_F(SheetTreeTest, AddingBeforeANewSheetAsksForOneAndMakesNoWindow)
+TEST_F(SheetTreeTest, TheToolbarAddsAWaveWindowUnderTheNewSheetOnly)
 {
     find("AddNewWaveform")->trigger();
     ASSERT_EQ(test->boxes.size(), 1);
     EXPECT_EQ(test->boxes[0].text, "Please Open or Creat a Data Sheet First!");
     EXPECT_TRUE(window->mdiArea()->subWindowList().isEmpty());
     EXPECT_EQ(tree->topLevelItemCount(), 0);
-}
-
-TEST_F(SheetTreeTest, TheToolbarAddsAWaveWindowUnderTheNewSheet)
-{
+    test->clearRecords();
     find("mnuNewDataSheet")->trigger();
     EXPECT_EQ(root()->text(0), "Untitle");
     EXPECT_EQ(window->windowTitle(), "Selvane - Untitle");
@@ -234,4 +235,33 @@ TEST_F(SheetTreeTest, StoredKindsAskForTheirFileAndACancelLeavesTheEmptyWindow)
     EXPECT_EQ(test->openRequests[1].filter, "Record Files (*.rcd)");
     EXPECT_EQ(nodeTexts().size(), 2);
     EXPECT_EQ(window->mdiArea()->subWindowList().size(), 2);
+}
+
+// Measure and data windows are the real windows, each new one on a clean slot;
+// removing one moves the later records and tags down.
+TEST_F(SheetTreeTest, AnalysisWindowsStartCleanAndMoveDownOnARemoval)
+{
+    find("mnuNewDataSheet")->trigger();
+    MeasureRecords[0].HasData = true;
+    MeasureRecords[0].Items[0].Enabled = true;
+    DataRecords[0].HasData = true;
+    find("AddNewMeasure")->trigger();
+    find("AddNewData")->trigger();
+    EXPECT_EQ(windowTags(true), QStringList({"frmMeasure Measure0=0", "frmData Data0=0"}));
+    EXPECT_FALSE(MeasureRecords[0].HasData);
+    EXPECT_FALSE(MeasureRecords[0].Items[0].Enabled);
+    EXPECT_EQ(MeasureRecords[0].Title, "Measure0");
+    EXPECT_FALSE(DataRecords[0].HasData);
+
+    for (int n = 0; n < 2; ++n)
+        find("AddNewMeasure")->trigger();
+    MeasureRecords[2].Items[15].OverLimit = 7.5;
+    tree->setCurrentItem(root()->child(0));
+    find("mnuRemove")->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(windowTags(true),
+              QStringList({"frmData Data0=0", "frmMeasure Measure1=0", "frmMeasure Measure2=1"}));
+    EXPECT_EQ(MeasureRecords[1].Items[15].OverLimit, 7.5);
+    EXPECT_EQ(MeasureWindowOf(1)->windowTitle(), "Measure2");
+    EXPECT_EQ(MeasureWindowOf(2), nullptr);
 }

@@ -1,24 +1,31 @@
 // Every child window and dialog opens at a size that shows all its controls and
-// its picture, with no caption cut, in both languages; sheet windows cascade
-// inside the main window's area.
+// its picture, with no caption cut, in both languages; it carries the drawing
+// of its kind, and in Chinese no English caption is left that has a Chinese
+// counterpart. Sheet windows cascade inside the main window's area.
 #include "fakevisa.h"
 #include "frmwave_fixture.h"
 
+#include "acquire/frmPrgress.h"
 #include "analysis/frmData.h"
 #include "analysis/frmMeasure.h"
+#include "analysis/frmPassFailed.h"
 #include "controller/editor.h"
 #include "controller/frmCtrlDialog.h"
 #include "controller/frmCtrlDialogAdjust.h"
 #include "controller/frmCtrlList.h"
 #include "controller/frmPatternDlg.h"
+#include "document/programiconwidgets.h"
 #include "frame/frmAbout.h"
 #include "frame/frmMain.h"
 #include "frame/frmOptions.h"
+#include "link/frmDlgResource.h"
 #include "panel/frmV_Key.h"
 #include "panel/frmV_Panel.h"
+#include "sheet/frmDataSheetTree.h"
 #include "sheet/frmNewDoc.h"
 #include "stored/frmOpenWaveform.h"
 #include "stored/frmRecordPlay.h"
+#include "text/captions.h"
 #include "text/language.h"
 #include "text/messages.h"
 #include "wave/frmWaveSetting.h"
@@ -32,11 +39,14 @@
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSet>
 #include <QStyleOptionButton>
 #include <QStyleOptionGroupBox>
+#include <QTabWidget>
 #include <QThread>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <functional>
 #include <memory>
 
@@ -51,7 +61,10 @@ struct Opened {
 
 struct WindowKind {
     const char* name;
+    Picture picture; // PictureCount: the window carries no drawing of its own
     std::function<Opened(QMdiArea&)> open;
+    bool sized = true;   // opened at a size of its own, so checked for room
+    bool chinese = true; // every caption has a Chinese one (not so for key and item names)
 };
 
 void PrintTo(const WindowKind& kind, std::ostream* out)
@@ -137,6 +150,45 @@ bool scrolled(const QWidget* w, const QWidget* window)
     return false;
 }
 
+// English captions whose Chinese differs, less any text that is itself a Chinese caption.
+QSet<QString> englishOnlyCaptions()
+{
+    QSet<QString> english, chinese;
+    for (int list = 0; list < CaptionListCount; ++list)
+        for (int slot = 0; slot < CaptionSlotCount(CaptionList(list)); ++slot) {
+            const QString en = Caption(CaptionList(list), slot, LanguageEnglish);
+            const QString zh = Caption(CaptionList(list), slot, LanguageChinese);
+            chinese.insert(zh.trimmed());
+            if (!en.trimmed().isEmpty() && en != zh) english.insert(en.trimmed());
+        }
+    return english - chinese;
+}
+
+// Every caption a person reads on the window: title, tabs, headers, buttons,
+// labels, frames and tooltips.
+QStringList captionsOf(QWidget* window)
+{
+    QStringList texts{window->windowTitle()};
+    for (QWidget* w : window->findChildren<QWidget*>()) {
+        texts << w->toolTip();
+        if (auto* button = qobject_cast<QAbstractButton*>(w)) texts << button->text();
+        if (auto* label = qobject_cast<QLabel*>(w)) texts << label->text();
+        if (auto* frame = qobject_cast<QGroupBox*>(w)) texts << frame->title();
+        if (auto* tabs = qobject_cast<QTabWidget*>(w))
+            for (int i = 0; i < tabs->count(); ++i)
+                texts << tabs->tabText(i);
+        if (auto* tree = qobject_cast<QTreeWidget*>(w); tree && tree->headerItem())
+            for (int i = 0; i < tree->columnCount(); ++i)
+                texts << tree->headerItem()->text(i);
+    }
+    return texts;
+}
+
+QImage drawn(const QIcon& icon)
+{
+    return icon.pixmap(24, 24).toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
 void settle(const std::function<bool()>& done, int ms = 5000)
 {
     const QDeadlineTimer deadline(ms);
@@ -151,16 +203,28 @@ class WindowSizes : public WaveWindowTest, public ::testing::WithParamInterface<
     ScopedFakeVisa instrument;
 };
 
-TEST_P(WindowSizes, ShowEveryControlAndCaptionWhole)
+TEST_P(WindowSizes, ShowEveryControlAndCaptionWholeWithItsDrawing)
 {
+    const WindowKind& kind = std::get<0>(GetParam());
     Language = std::get<1>(GetParam());
     LoadMessages();
     area.resize(1600, 1200);
-    Opened opened = std::get<0>(GetParam()).open(area);
+    Opened opened = kind.open(area);
     QWidget* window = opened.window;
     ASSERT_NE(window, nullptr);
+    if (kind.picture != Picture(PictureCount)) {
+        EXPECT_FALSE(window->windowIcon().isNull());
+        EXPECT_EQ(drawn(window->windowIcon()), drawn(ProgramIcon(kind.picture)));
+    }
+    if (Language == LanguageChinese && kind.chinese) {
+        const QSet<QString> english = englishOnlyCaptions();
+        for (const QString& text : captionsOf(window))
+            EXPECT_FALSE(english.contains(text.trimmed())) << '"' << text.toStdString() << '"';
+    }
+    if (!kind.sized) return;
     window->show();
-    settle([] { return false; }, 150); // first timers: restored boxes, the wave window's picture
+    // The first timers: restored boxes, the wave window's picture.
+    settle([] { return false; }, 150);
     for (QWidget* w : window->findChildren<QWidget*>()) {
         if (w->isWindow() || !w->isVisibleTo(window) || scrolled(w, window)) continue;
         const std::string name = w->objectName().toStdString() + " (" + w->metaObject()->className() + ")";
@@ -208,41 +272,60 @@ Opened controllerPane(QMdiArea&)
 }
 
 const WindowKind kinds[] = {
-    {"Wave", [](QMdiArea& area) { return sheetWindow(CreateWaveWindow(&area, 0)); }},
-    {"Measure", [](QMdiArea& area) { return sheetWindow(CreateMeasureWindow(&area, 0)); }},
-    {"Data", [](QMdiArea& area) { return sheetWindow(CreateDataWindow(&area, 0)); }},
-    {"MemoryWave", [](QMdiArea& area) { return sheetWindow(CreateMemoryWaveWindow(&area, 0)); }},
-    {"Record", [](QMdiArea& area) { return sheetWindow(CreateRecordPlayWindow(&area, 0)); }},
-    {"ControllerPane", controllerPane},
-    {"EditorList",
+    {"Wave", Picture::Wave, [](QMdiArea& area) { return sheetWindow(CreateWaveWindow(&area, 0)); }},
+    {"Measure", Picture::Measure, [](QMdiArea& area) { return sheetWindow(CreateMeasureWindow(&area, 0)); }},
+    {"Data", Picture::Data, [](QMdiArea& area) { return sheetWindow(CreateDataWindow(&area, 0)); }},
+    {"MemoryWave", Picture::MemoryWave,
+     [](QMdiArea& area) { return sheetWindow(CreateMemoryWaveWindow(&area, 0)); }},
+    {"Record", Picture::Record, [](QMdiArea& area) { return sheetWindow(CreateRecordPlayWindow(&area, 0)); }},
+    {"ControllerPane", Picture::Controller, controllerPane},
+    {"EditorList", Picture::CtrlSetting,
      [](QMdiArea&) {
          return editor(EditShape::List, QStringLiteral("Sensitivity"), {"0.10div", "0.20div"}, "0.10div");
-     }},
-    {"EditorNumber",
-     [](QMdiArea&) { return editor(EditShape::Number, QStringLiteral("Offset"), {}, QStringLiteral("0")); }},
-    {"FineAdjust",
+     },
+     true, false},
+    {"EditorNumber", Picture::CtrlSetting,
+     [](QMdiArea&) { return editor(EditShape::Number, QStringLiteral("Offset"), {}, QStringLiteral("0")); },
+     true, false},
+    {"FineAdjust", Picture::CtrlSetting,
      [](QMdiArea&) {
          auto opened = dialog<CtrlDialogAdjust>();
          static_cast<CtrlDialogAdjust*>(opened.window)->Load(0, QStringLiteral("Volt/Div"));
          return opened;
-     }},
-    {"Pattern", [](QMdiArea&) { return dialog<PatternDlg>(); }},
-    {"VirtualKeyboard", [](QMdiArea&) { return dialog<frmV_Key>(); }},
-    {"VirtualPanel",
+     },
+     true, false},
+    {"Pattern", Picture::CtrlSetting, [](QMdiArea&) { return dialog<PatternDlg>(); }},
+    {"VirtualKeyboard", Picture::Keyboard, [](QMdiArea&) { return dialog<frmV_Key>(); }, true, false},
+    {"VirtualPanel", Picture::Panel,
      [](QMdiArea&) {
          auto opened = dialog<frmV_Panel>();
          static_cast<frmV_Panel*>(opened.window)->tDrawBmp->stop(); // no screen loop
          return opened;
-     }},
-    {"FftSetting",
+     },
+     true, false},
+    {"FftSetting", Picture::Fft,
      [](QMdiArea& area) {
          auto* window = new frmWaveSetting(&area);
          return Opened{window, std::unique_ptr<QObject>(window)};
      }},
-    {"Options", [](QMdiArea&) { return dialog<frmOptions>(); }},
-    {"About", [](QMdiArea&) { return dialog<frmAbout>(); }},
-    {"NewDocument", [](QMdiArea&) { return dialog<frmNewDoc>(); }},
-    {"OpenDocument", [](QMdiArea&) { return dialog<frmOpenDoc>(); }},
+    {"Options", Picture::Options, [](QMdiArea&) { return dialog<frmOptions>(); }},
+    {"About", Picture::Program, [](QMdiArea&) { return dialog<frmAbout>(); }},
+    {"NewDocument", Picture::New, [](QMdiArea&) { return dialog<frmNewDoc>(); }},
+    {"OpenDocument", Picture::Open, [](QMdiArea&) { return dialog<frmOpenDoc>(); }},
+    {"PassFailed", Picture::Measure,
+     [](QMdiArea&) {
+         auto* window = new frmPassFailed(0, "Measure0");
+         return Opened{window, std::unique_ptr<QObject>(window)};
+     },
+     false},
+    {"DataSheetTree", Picture::DataBrowser, [](QMdiArea&) { return dialog<frmDataSheetTree>(); }, false},
+    {"DlgResource", Picture(PictureCount), [](QMdiArea&) { return dialog<frmDlgResource>(); }, false},
+    {"Progress", Picture(PictureCount),
+     [](QMdiArea&) {
+         auto* window = new frmPrgress({OperationUpload});
+         return Opened{window, std::unique_ptr<QObject>(window)};
+     },
+     false},
 };
 
 INSTANTIATE_TEST_SUITE_P(Windows, WindowSizes,
@@ -252,6 +335,22 @@ INSTANTIATE_TEST_SUITE_P(Windows, WindowSizes,
                              return std::string(std::get<0>(info.param).name) +
                                     (std::get<1>(info.param) == LanguageChinese ? "Chinese" : "English");
                          });
+
+// The table windows' buttons take their lists' captions, tooltips included.
+TEST_F(WaveWindowTest, TableWindowButtonsSpeakTheListsChinese)
+{
+    Language = LanguageChinese;
+    for (QWidget* window :
+         {static_cast<QWidget*>(new frmData(0)), static_cast<QWidget*>(new frmMeasure(0))}) {
+        auto* refresh = window->findChild<QAbstractButton*>("cmdRefresh");
+        auto* output = window->findChild<QAbstractButton*>("cmdExport");
+        EXPECT_EQ(refresh->text(), u" 更新 .");
+        EXPECT_EQ(refresh->toolTip(), u"更新数据(F5)");
+        EXPECT_EQ(output->text(), u"导出 .");
+        EXPECT_EQ(output->toolTip(), u"输出");
+        delete window;
+    }
+}
 
 // Each new sheet window opens a title bar's height below and right of the last,
 // back at the corner when it would leave the area.
