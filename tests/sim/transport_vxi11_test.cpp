@@ -1,8 +1,8 @@
 // VXI-11 and its portmapper, spoken by a small client of the test's own: XDR
 // words written by hand here, so a mistake in the simulator's codec can't
 // hide behind the same mistake in the client. Only what our VISA layer never
-// asks for is here (UDP, locks, writes without END, abort, broken peers);
-// tests/visa runs the ordinary exchanges against the simulator.
+// looks at is here (UDP, a read's time-out and reason, locks, writes without END, abort,
+// broken peers); tests/visa runs the ordinary exchanges against the simulator.
 
 #include "wireclient.h"
 
@@ -14,6 +14,7 @@ namespace {
 
 constexpr quint32 kPortmapper = 100000;
 constexpr quint32 kCore = 0x0607AF;
+enum : quint32 { ReqCnt = 1, End = 4 };
 enum : quint32 {
     GetPort = 3,
     CreateLink = 10,
@@ -176,6 +177,27 @@ TEST_F(Vxi11Transport, PortmapperTellsTheCorePortOverTcpAndUdp)
     QByteArray reply(int(udp.pendingDatagramSize()), '\0');
     udp.readDatagram(reply.data(), reply.size());
     EXPECT_EQ(resultsOf(reply, 99).word(), sim->port("vxi11"));
+}
+
+// Our VISA layer keeps its own deadline and counts the bytes: it never looks
+// at the time-out error or the reason.
+TEST_F(Vxi11Transport, ReadsEndOnTimeOutCountOrEnd)
+{
+    open();
+    EXPECT_EQ(read(256, 100).error, 15u) << "I/O time-out";
+    EXPECT_EQ(write("*IDN?\n"), 0u);
+    QByteArray whole;
+    ReadResult piece{};
+    for (int reads = 0; reads < 20 && !(piece.reason & End); ++reads) {
+        piece = read(8);
+        ASSERT_EQ(piece.error, 0u);
+        ASSERT_LE(piece.data.size(), 8);
+        if (!(piece.reason & End)) {
+            EXPECT_EQ(piece.reason, ReqCnt);
+        }
+        whole += piece.data;
+    }
+    EXPECT_EQ(whole, QByteArray(kTestIdn) + '\n');
 }
 
 TEST_F(Vxi11Transport, LockUnlockJoinedWritesAndUnknownLinks)
