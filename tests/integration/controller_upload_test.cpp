@@ -2,6 +2,7 @@
 // order, the pauses the instrument needs, the record surviving a round trip, and
 // selvane-cli upload's exit codes.
 
+#include "cliprocess.h"
 #include "reading_simlink.h"
 
 #include "acquire/operation.h"
@@ -13,7 +14,6 @@
 #include "text/treewords.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -192,19 +192,16 @@ TEST_F(UploadTest, CliSendsAFileAndRefusesAForeignOne)
         QStringList arguments = head;
         for (const QString& resource : socketResources())
             arguments << "--resource" << resource;
-        QProcess cli;
-        cli.start(QStringLiteral(SELVANE_CLI_PATH), arguments);
-        EXPECT_TRUE(cli.waitForFinished(60000));
-        return std::make_pair(cli.exitCode(), QString::fromUtf8(cli.readAllStandardError()));
+        return runCli(arguments);
     };
-    const auto [refused, refusedText] = run({"upload", "--in", bad});
-    EXPECT_EQ(refused, 3);
-    EXPECT_TRUE(refusedText.contains("File Format is Invaild !")) << refusedText.toStdString();
+    const CliRun refused = run({"upload", "--in", bad});
+    EXPECT_EQ(refused.status, 3);
+    EXPECT_TRUE(refused.err.contains("File Format is Invaild !")) << refused.err.toStdString();
     EXPECT_TRUE(link->loggedCommands().filter(QRegularExpression("^:TIMEBASE:SCALE ")).isEmpty());
 
-    EXPECT_EQ(run({"upload", "--in", good}).first, 0);
+    EXPECT_EQ(run({"upload", "--in", good}).status, 0);
     EXPECT_TRUE(link->loggedCommands().contains(":TIMEBASE:SCALE 0.005"));
-    EXPECT_EQ(run({"upload"}).first, 2);
+    EXPECT_EQ(run({"upload"}).status, 2);
 }
 
 } // namespace

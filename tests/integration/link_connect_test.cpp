@@ -1,5 +1,6 @@
 // ConnectDevice, the reads and DisconnectDevice against kv7200b-sim over every
-// transport, and the refusals of instruments the program doesn't support.
+// transport; which identities are refused is tested over the scripted VISA
+// (tests/link).
 #include "link_simlink.h"
 
 #include "link/connection.h"
@@ -50,41 +51,5 @@ INSTANTIATE_TEST_SUITE_P(Sim, TransportTable,
                          ::testing::Values(LinkTransport::Socket, LinkTransport::Vxi11, LinkTransport::Hislip,
                                            LinkTransport::Serial),
                          [](const auto& info) { return transportName(info.param); });
-
-struct RefusalCase {
-    const char* name;
-    const char* identity;
-    bool connected;
-    const char* box;
-    bool stillConnecting;
-};
-
-class RefusalTable : public SimLinkTest, public ::testing::WithParamInterface<RefusalCase> {};
-
-TEST_P(RefusalTable, RefusesWhatIsNotSupported)
-{
-    const RefusalCase& c = GetParam();
-    SimLink link({"--idn", c.identity, "--socket-port", "0", "--hislip-port", "off", "--pty", "off"});
-    ASSERT_TRUE(link.started()) << link.errorString().toStdString();
-    link.aim(LinkTransport::Socket);
-
-    ConnectDevice();
-
-    EXPECT_EQ(Connected, c.connected);
-    EXPECT_EQ(Connecting, c.stillConnecting);
-    EXPECT_EQ(boxTexts(), *c.box ? QStringList{c.box} : QStringList{});
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Identities, RefusalTable,
-    ::testing::Values(RefusalCase{"otherVendor", "Acme Instruments,KV7204B,1,00.03.05", false,
-                                  "Connect to Oscilloscope|Device not found!", false},
-                      RefusalCase{"modelLongerThanB", "Korva Technologies,KV7204BX,1,00.03.05", false,
-                                  "Connect to Oscilloscope|Device not found!", false},
-                      RefusalCase{"oldFirmware", "Korva Technologies,KV7204B,1,00.03.02.00.00", false,
-                                  "|Low firmware,please update it.", true},
-                      RefusalCase{"servicePackPasses", "Korva Technologies,KV7204B,1,00.03.03.SP1", true, "",
-                                  false}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace

@@ -1,6 +1,7 @@
 // The instrument goes away in the middle of a session and comes back: the
 // lost link is announced once, what was read stays, and connecting again to
 // the same resource reads again.
+#include "cliprocess.h"
 #include "reading_simlink.h"
 
 #include "acquire/operation.h"
@@ -13,7 +14,6 @@
 #include "link/linkstate.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
@@ -63,16 +63,9 @@ TEST_F(Reconnect, AfterTheSimulatorIsKilledARestartedOneConnectsAndReadsAgain)
 // selvane-cli against one HiSLIP address: exit status and output.
 std::pair<int, QString> cli(const QStringList& arguments)
 {
-    QProcess cli;
     const QTemporaryDir home;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("SELVANE_VISA", "builtin");
-    environment.insert("HOME", home.path());
-    environment.insert("XDG_CONFIG_HOME", home.path());
-    cli.setProcessEnvironment(environment);
-    cli.start(SELVANE_CLI_PATH, arguments);
-    if (!cli.waitForFinished(30000)) return {-1, {}};
-    return {cli.exitCode(), QString::fromLocal8Bit(cli.readAllStandardOutput()).trimmed()};
+    const CliRun run = runCli(arguments, firstStart(home));
+    return {run.status, run.out};
 }
 
 TEST(CliReconnect, EachRoundAgainstARestartedSimulatorWorksAndAGoneOneFails)
@@ -84,7 +77,7 @@ TEST(CliReconnect, EachRoundAgainstARestartedSimulatorWorksAndAGoneOneFails)
     const QTemporaryDir dir;
     const QString picture = dir.filePath("wave.png");
     for (int round = 0; round < 3; ++round) {
-        EXPECT_EQ(cli({"idn", "--resource", resource}), std::make_pair(0, QString(SupportedIdentity)))
+        EXPECT_EQ(cli({"idn", "--resource", resource}), std::make_pair(0, QString(SupportedIdentity) + "\n"))
             << round;
         QFile::remove(picture);
         EXPECT_EQ(cli({"wave", "--resource", resource, "--out", picture}).first, 0) << round;

@@ -1,6 +1,7 @@
 // The measure reading against kv7200b-sim: the commands in their order with
 // the instrument's pauses, the values in their slots, a channel that is off,
 // the alternate-trigger legend, and selvane-cli measure's file and exit status.
+#include "cliprocess.h"
 #include "reading_simlink.h"
 
 #include "acquire/operation.h"
@@ -9,7 +10,6 @@
 #include "text/valuetext.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
@@ -101,10 +101,7 @@ class MeasureCli : public SimReadingTest {
         QStringList all = QStringList{"measure", "--out", out} + arguments;
         for (const QString& resource : socketResources())
             all << "--resource" << resource;
-        QProcess cli;
-        cli.start(QStringLiteral(SELVANE_CLI_PATH), all);
-        if (!cli.waitForFinished(30000)) return -1;
-        return cli.exitCode();
+        return ::runCli(all).status;
     }
     QTemporaryDir dir;
     QString out = dir.filePath("measure.txt");

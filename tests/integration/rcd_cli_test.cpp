@@ -1,5 +1,6 @@
 // Record files the simulator writes, read by the program's reader and by
 // selvane-cli rcd: fields, frames, pictures and exit codes.
+#include "cliprocess.h"
 #include "platform/testplatform.h"
 #include "state/programstate.h"
 #include "stored/rcdbuilder.h"
@@ -13,20 +14,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
-
-int run(const QString& program, const QStringList& arguments, QByteArray* errors = nullptr)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished(60000)) return -1;
-    if (errors) *errors = process.readAllStandardError();
-    return process.exitCode();
-}
 
 class RcdFiles : public ::testing::Test {
   protected:
@@ -36,16 +27,19 @@ class RcdFiles : public ::testing::Test {
     QString simFile(const QStringList& options)
     {
         const QString path = dir.filePath("sim.rcd");
-        EXPECT_EQ(run(QStringLiteral(SELVANE_SIM_PATH), QStringList{"write-rcd", path} + options), 0);
+        EXPECT_EQ(
+            runProgram(QStringLiteral(SELVANE_SIM_PATH), QStringList{"write-rcd", path} + options).status, 0);
         return path;
     }
     int cli(const QStringList& arguments)
     {
-        return run(QStringLiteral(SELVANE_CLI_PATH), QStringList{"rcd"} + arguments, &errors);
+        const CliRun run = runCli(QStringList{"rcd"} + arguments);
+        errors = run.err;
+        return run.status;
     }
 
     QTemporaryDir dir;
-    QByteArray errors;
+    QString errors;
     ScopedTestPlatform test;
 };
 

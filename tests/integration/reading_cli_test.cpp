@@ -1,12 +1,12 @@
 // selvane-cli wave and table against the simulator: the picture shows the
 // grid and the traces where the instrument's codes put them; the table file
 // is the export text.
+#include "cliprocess.h"
 #include "reading_simlink.h"
 
 #include <QColor>
 #include <QFile>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
@@ -24,15 +24,13 @@ class CliReading : public SimReadingTest {
         QStringList all = arguments;
         for (const QString& resource : socketResources())
             all << "--resource" << resource;
-        QProcess cli;
-        cli.start(QStringLiteral(SELVANE_CLI_PATH), all);
-        if (!cli.waitForFinished(20000)) return -1;
-        errors = cli.readAllStandardError();
-        return cli.exitCode();
+        const CliRun run = ::runCli(all);
+        errors = run.err;
+        return run.status;
     }
 
     QTemporaryDir dir;
-    QByteArray errors;
+    QString errors;
 };
 
 // Whether column x holds a pixel of colour within rows from..to.
@@ -95,9 +93,7 @@ TEST_F(CliReading, TableWritesTheExportText)
     ASSERT_GE(lines.size(), 612);
     EXPECT_EQ(lines[0], "Selvane -[Data]\r");
     EXPECT_TRUE(lines[4].startsWith("CH2 1.00V  500.0us "));
-    EXPECT_EQ(lines[9], "NO.\tTime\tVoltage\r");
-    EXPECT_TRUE(lines[11].startsWith("1\t"));
-    EXPECT_TRUE(lines[610].startsWith("600\t"));
+    EXPECT_TRUE(lines[610].startsWith("600\t")) << "the export's rows are tested in reading_table_test";
 }
 
 TEST_F(CliReading, UsageErrorsExitWithTwo)

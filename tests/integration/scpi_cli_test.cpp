@@ -1,47 +1,30 @@
 // selvane-cli list and scpi against the simulator: what a user types first
 // at a new instrument, by hand and from a pipe.
+#include "cliprocess.h"
 #include "link_simlink.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
 
-struct CliRun {
-    int status = -1;
-    QString out;
-    QString err;
-};
-
 // Runs the program as a user without a desktop session: a fresh home, no
 // runtime folder, no platform chosen.
-CliRun runCli(const QStringList& arguments, const QByteArray& input = {}, const QString& visaConf = {})
+CliRun scpiCli(const QStringList& arguments, const QByteArray& input = {}, const QString& visaConf = {})
 {
     const QTemporaryDir home;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("SELVANE_VISA", "builtin");
-    environment.insert("HOME", home.path());
-    environment.insert("XDG_CONFIG_HOME", home.path());
-    environment.remove("XDG_RUNTIME_DIR");
-    environment.remove("QT_QPA_PLATFORM");
-    environment.remove("SELVANE_VISA_RESOURCES");
-    environment.remove("SELVANE_VISA_CONF");
+    QProcessEnvironment environment = firstStart(home);
+    for (const char* name :
+         {"XDG_RUNTIME_DIR", "QT_QPA_PLATFORM", "SELVANE_VISA_RESOURCES", "SELVANE_VISA_CONF"})
+        environment.remove(name);
     if (!visaConf.isEmpty()) {
         QDir(home.path()).mkpath("selvane");
         QFile file(home.filePath("selvane/visa.conf"));
         if (!file.open(QIODevice::WriteOnly) || file.write(visaConf.toUtf8()) < 0) return {};
     }
-    QProcess cli;
-    cli.setProcessEnvironment(environment);
-    cli.start(SELVANE_CLI_PATH, arguments);
-    cli.write(input);
-    cli.closeWriteChannel();
-    if (!cli.waitForFinished(30000)) return {};
-    return {cli.exitCode(), QString::fromLocal8Bit(cli.readAllStandardOutput()),
-            QString::fromLocal8Bit(cli.readAllStandardError())};
+    return runCli(arguments, environment, input);
 }
 
 class ScpiCli : public ::testing::Test {
@@ -67,7 +50,7 @@ TEST_F(ScpiCli, ListFindsTheConfiguredLanInstrumentAndThePseudoTerminalOnlyWithS
     const QString conf = "# the lab's scope\n" + hislip() + "\n";
     const QStringList asked{"list", "--timeout", "1000", "--resource", pty};
 
-    const CliRun lan = runCli(asked, {}, conf);
+    const CliRun lan = scpiCli(asked, {}, conf);
     EXPECT_EQ(lan.status, 0) << lan.err.toStdString();
     EXPECT_TRUE(lan.err.isEmpty()) << lan.err.toStdString();
     EXPECT_TRUE(lan.out.contains("hislip0," + QString::number(link.sim().port("hislip")) + "::INSTR\t" +
@@ -75,7 +58,7 @@ TEST_F(ScpiCli, ListFindsTheConfiguredLanInstrumentAndThePseudoTerminalOnlyWithS
         << lan.out.toStdString();
     EXPECT_FALSE(lan.out.contains("ASRL")) << lan.out.toStdString();
 
-    const CliRun serial = runCli(asked + QStringList{"--serial"}, {}, conf);
+    const CliRun serial = scpiCli(asked + QStringList{"--serial"}, {}, conf);
     EXPECT_EQ(serial.status, 0);
     EXPECT_TRUE(serial.out.contains(pty + "\t" + identity + "\n")) << serial.out.toStdString();
     EXPECT_TRUE(serial.out.contains("hislip0")) << serial.out.toStdString();
@@ -83,12 +66,12 @@ TEST_F(ScpiCli, ListFindsTheConfiguredLanInstrumentAndThePseudoTerminalOnlyWithS
 
 TEST_F(ScpiCli, AnswersFromTheCommandLineAndFromAPipe)
 {
-    const CliRun arguments = runCli({"scpi", "--resource", hislip(), "*IDN?"});
+    const CliRun arguments = scpiCli({"scpi", "--resource", hislip(), "*IDN?"});
     EXPECT_EQ(arguments.status, 0);
     EXPECT_EQ(arguments.out, identity + "\n");
     EXPECT_TRUE(arguments.err.isEmpty()) << arguments.err.toStdString();
 
-    const CliRun pipe = runCli({"scpi", "--resource", socket()}, "*IDN?\n\n  *IDN?  \n");
+    const CliRun pipe = scpiCli({"scpi", "--resource", socket()}, "*IDN?\n\n  *IDN?  \n");
     EXPECT_EQ(pipe.status, 0) << pipe.err.toStdString();
     EXPECT_EQ(pipe.out, identity + "\n" + identity + "\n");
 }
@@ -100,7 +83,7 @@ TEST_F(ScpiCli, WritesABlockToOutAndTellsItsLength)
     const QTemporaryDir dir;
     const QString out = dir.filePath("parameter.bin");
     const CliRun run =
-        runCli({"scpi", "--resource", socket(), "--out", out, ":WAVEFORM:PARAMETER?", "*IDN?"});
+        scpiCli({"scpi", "--resource", socket(), "--out", out, ":WAVEFORM:PARAMETER?", "*IDN?"});
     EXPECT_EQ(run.status, 0) << run.err.toStdString();
     const qint64 size = QFileInfo(out).size();
     EXPECT_GT(size, 0);
@@ -109,15 +92,15 @@ TEST_F(ScpiCli, WritesABlockToOutAndTellsItsLength)
 
 TEST_F(ScpiCli, NoReplyAndUsageErrorsHaveTheirStatus)
 {
-    const CliRun silent = runCli({"scpi", "--resource", "TCPIP0::127.0.0.1::1::SOCKET", "*IDN?"});
+    const CliRun silent = scpiCli({"scpi", "--resource", "TCPIP0::127.0.0.1::1::SOCKET", "*IDN?"});
     EXPECT_EQ(silent.status, 1);
-    EXPECT_EQ(runCli({"scpi", "*IDN?"}).status, 2);
-    EXPECT_EQ(runCli({"scpi", "--bogus"}).status, 2);
+    EXPECT_EQ(scpiCli({"scpi", "*IDN?"}).status, 2);
+    EXPECT_EQ(scpiCli({"scpi", "--bogus"}).status, 2);
 
-    const CliRun unknown = runCli({"wfmx", "--help"});
+    const CliRun unknown = scpiCli({"wfmx", "--help"});
     EXPECT_EQ(unknown.status, 2);
     EXPECT_TRUE(unknown.err.contains("unknown subcommand 'wfmx'")) << unknown.err.toStdString();
-    const CliRun version = runCli({"--version"});
+    const CliRun version = scpiCli({"--version"});
     EXPECT_EQ(version.status, 0);
     EXPECT_TRUE(version.out.startsWith("selvane-cli ")) << version.out.toStdString();
 }

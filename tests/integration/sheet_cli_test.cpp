@@ -1,11 +1,12 @@
 // selvane-cli sheet on the hand-written sheet file: the JSON, a resave that
 // comes back byte for byte, pictures, and a refused file's exit code.
+#include "cliprocess.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -15,10 +16,7 @@ const QString golden = QStringLiteral(SELVANE_TEST_DATA "/sheet/data/golden.kvs"
 
 int sheetCli(const QStringList& arguments)
 {
-    QProcess process;
-    process.start(QStringLiteral(SELVANE_CLI_PATH), QStringList{"sheet"} + arguments);
-    if (!process.waitForFinished(60000)) return -1;
-    return process.exitCode();
+    return runCli(QStringList{"sheet"} + arguments).status;
 }
 
 QByteArray contentOf(const QString& path)

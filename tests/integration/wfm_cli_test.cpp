@@ -1,4 +1,5 @@
 // selvane-cli wfm: the memory view's reader and CSV from the command line.
+#include "cliprocess.h"
 #include "stored/memorywavecsv.h"
 #include "stored/wfmbytes.h"
 #include "stored/wfmfile.h"
@@ -9,26 +10,14 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct CliRun {
-    int exitCode = -1;
-    QString errors;
-};
-
 class WfmCliTest : public ::testing::Test {
   protected:
-    CliRun run(QStringList arguments) const
-    {
-        QProcess cli;
-        cli.start(QStringLiteral(SELVANE_CLI_PATH), QStringList{QStringLiteral("wfm")} + arguments);
-        EXPECT_TRUE(cli.waitForFinished(30000));
-        return {cli.exitCode(), QString::fromLocal8Bit(cli.readAllStandardError())};
-    }
+    CliRun run(QStringList arguments) const { return runCli(QStringList{QStringLiteral("wfm")} + arguments); }
     QString write(const char* name, const WfmBytes& file) const
     {
         const QString path = dir.filePath(QString::fromLatin1(name));
@@ -52,7 +41,7 @@ TEST_F(WfmCliTest, WritesTheSlotAsJsonTheCsvAndThePicture)
 {
     const QString wfm = write("a.wfm", good());
     const CliRun r = run({wfm, "--json", path("a.json"), "--csv", path("a.csv"), "--picture", path("a.png")});
-    EXPECT_EQ(r.exitCode, 0) << qPrintable(r.errors);
+    EXPECT_EQ(r.status, 0) << qPrintable(r.err);
     QFile json(path("a.json"));
     ASSERT_TRUE(json.open(QIODevice::ReadOnly));
     const QJsonObject slot = QJsonDocument::fromJson(json.readAll()).object();
@@ -82,8 +71,8 @@ TEST_F(WfmCliTest, ARefusedFileExitsWith3AndSaysWhy)
     WfmBytes bad = good();
     bad.model("KV7204BX");
     const CliRun r = run({write("bad.wfm", bad), "--json", path("bad.json"), "--language", "chinese"});
-    EXPECT_EQ(r.exitCode, 3);
-    EXPECT_TRUE(r.errors.contains(QStringLiteral("文件操作失败！"))) << qPrintable(r.errors);
+    EXPECT_EQ(r.status, 3);
+    EXPECT_TRUE(r.err.contains(QStringLiteral("文件操作失败！"))) << qPrintable(r.err);
     QFile json(path("bad.json"));
     ASSERT_TRUE(json.open(QIODevice::ReadOnly));
     const QJsonObject slot = QJsonDocument::fromJson(json.readAll()).object();
@@ -94,10 +83,10 @@ TEST_F(WfmCliTest, ARefusedFileExitsWith3AndSaysWhy)
 TEST_F(WfmCliTest, UsageErrorsExitWith2)
 {
     const QString wfm = write("a.wfm", good());
-    EXPECT_EQ(run({}).exitCode, 2);
-    EXPECT_EQ(run({wfm, wfm}).exitCode, 2);
-    EXPECT_EQ(run({wfm, "--language", "latin"}).exitCode, 2);
-    EXPECT_EQ(run({wfm, "--csv-dir", path("out"), "--json", path("x.json")}).exitCode, 2);
+    EXPECT_EQ(run({}).status, 2);
+    EXPECT_EQ(run({wfm, wfm}).status, 2);
+    EXPECT_EQ(run({wfm, "--language", "latin"}).status, 2);
+    EXPECT_EQ(run({wfm, "--csv-dir", path("out"), "--json", path("x.json")}).status, 2);
 }
 
 TEST_F(WfmCliTest, ABatchConvertsEveryFileAndReportsEachRefusedOne)
@@ -109,10 +98,9 @@ TEST_F(WfmCliTest, ABatchConvertsEveryFileAndReportsEachRefusedOne)
     const QStringList files = {write("one.wfm", good()), write("bad.wfm", bad), write("three.wfm", onlyCh3),
                                write("four.wfm", good())};
     const CliRun r = run(files + QStringList{"--csv-dir", path("out")});
-    EXPECT_EQ(r.exitCode, 3);
-    EXPECT_TRUE(r.errors.contains(QStringLiteral("bad.wfm: The file format is error!")))
-        << qPrintable(r.errors);
-    EXPECT_TRUE(r.errors.contains(QStringLiteral("three.wfm: Invalid waveform data!")));
+    EXPECT_EQ(r.status, 3);
+    EXPECT_TRUE(r.err.contains(QStringLiteral("bad.wfm: The file format is error!"))) << qPrintable(r.err);
+    EXPECT_TRUE(r.err.contains(QStringLiteral("three.wfm: Invalid waveform data!")));
     EXPECT_EQ(QDir(path("out")).entryList(QDir::Files), (QStringList{"four.csv", "one.csv"}));
 }
 
