@@ -69,6 +69,14 @@ bool OpenLink(const LinkOptions& options)
     return Connected;
 }
 
+bool OpenLinkOrSayNotFound(const LinkOptions& options)
+{
+    if (OpenLink(options)) return true;
+    std::fprintf(stderr, "%s\n", qPrintable(MsgDeviceNotFound));
+    CloseLink();
+    return false;
+}
+
 void CloseLink()
 {
     DisconnectDevice();

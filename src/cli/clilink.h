@@ -20,5 +20,8 @@ bool TakeLinkOptions(const QCommandLineParser& parser, const QString& command, L
 // Connects as the program does: the transport and resource preset from the
 // options, then ConnectDevice. Returns Connected.
 bool OpenLink(const LinkOptions& options);
+// OpenLink; when no instrument answers, says "Device not found!" in the language
+// in force on stderr and closes the link again.
+bool OpenLinkOrSayNotFound(const LinkOptions& options);
 // Releases the instrument and closes the resource manager.
 void CloseLink();

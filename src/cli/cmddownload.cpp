@@ -8,7 +8,6 @@
 #include "controller/ctrlstate.h"
 #include "controller/download.h"
 #include "link/timeouttimer.h"
-#include "text/messages.h"
 
 #include <QCommandLineParser>
 #include <cstdio>
@@ -33,11 +32,7 @@ int RunDownloadCommand(const QStringList& arguments)
     }
 
     TimeOutTimer ticks; // serial replies are waited for on its ticks
-    if (!OpenLink(options)) {
-        std::fprintf(stderr, "%s\n", qPrintable(MsgDeviceNotFound));
-        CloseLink();
-        return 2;
-    }
+    if (!OpenLinkOrSayNotFound(options)) return 2;
     ResetCtrlState(); // the New defaults in the chosen language
     InstallDownloadOperation();
     {

@@ -10,7 +10,6 @@
 #include "controller/editor.h"
 #include "controller/fineadjust.h"
 #include "link/timeouttimer.h"
-#include "text/messages.h"
 #include "text/productinfo.h"
 
 #include <QCommandLineParser>
@@ -63,11 +62,7 @@ int RunSetCommand(const QStringList& arguments)
     }
 
     TimeOutTimer ticks; // serial replies are waited for on its ticks
-    if (!OpenLink(options)) {
-        std::fprintf(stderr, "%s\n", qPrintable(MsgDeviceNotFound));
-        CloseLink();
-        return ExitUsage;
-    }
+    if (!OpenLinkOrSayNotFound(options)) return ExitUsage;
     ResetCtrlState();
     InstallDownloadOperation();
     RunReadingFrame({OperationDownload});

@@ -7,7 +7,6 @@
 #include "controller/ctrlfile.h"
 #include "controller/upload.h"
 #include "link/timeouttimer.h"
-#include "text/messages.h"
 
 #include <QCommandLineParser>
 #include <cstdio>
@@ -36,11 +35,7 @@ int RunUploadCommand(const QStringList& arguments)
     }
 
     TimeOutTimer ticks; // serial replies are waited for on its ticks
-    if (!OpenLink(options)) {
-        std::fprintf(stderr, "%s\n", qPrintable(MsgDeviceNotFound));
-        CloseLink();
-        return ExitUsage;
-    }
+    if (!OpenLinkOrSayNotFound(options)) return ExitUsage;
     // Value words are compared in the language in force, so the file is read after it is set.
     if (!ReadCtrlFile(in)) {
         CloseLink();
